@@ -1,0 +1,5 @@
+#include "zrskin/IZrSkin.h"
+
+IZrSkin::IZrSkin() = default;
+
+IZrSkin::~IZrSkin() = default;

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "zrdefine/zrdefine_global.h"
+
+#include <QtCore/QString>
+
+/// Names the client and its plugins share: title buttons, setting groups, skin places and the
+/// vocabulary of strategy parameter descriptions.
+///
+/// Shape:   distinct within their group; the values are the host's own.
+/// Threads: constant after static initialisation; readable from any thread. Not readable from
+///          the static initialisers of another library.
+namespace Constants {
+/// Title buttons of a plugin.
+extern ZRDEFINE_EXPORT const QString PLUGIN_SYSTEMBUTTON_CLOSE;
+extern ZRDEFINE_EXPORT const QString PLUGIN_SYSTEMBUTTON_COPY;
+extern ZRDEFINE_EXPORT const QString PLUGIN_SYSTEMBUTTON_DOCK;
+extern ZRDEFINE_EXPORT const QString PLUGIN_SYSTEMBUTTON_REFRESH;
+extern ZRDEFINE_EXPORT const QString PLUGIN_SYSTEMBUTTON_SETTING;
+extern ZRDEFINE_EXPORT const QString PLUGIN_SYSTEMBUTTON_VIEWEXPORT;
+
+/// Groups of ZrCore::settings.
+extern ZRDEFINE_EXPORT const QString PLUGIN_VIEWCUSTOMHIDESTYLE;
+extern ZRDEFINE_EXPORT const QString PLUGIN_VIEWCURRENTCUSTOMHIDESTYLE;
+extern ZRDEFINE_EXPORT const QString VIEWFIELDORDERLIST;
+
+/// Path prefix, below the current skin, of this library's own style sheets.
+extern ZRDEFINE_EXPORT const QString SKIN_SYSTEM;
+/// Dictionary section that names the linkage types.
+extern ZRDEFINE_EXPORT const QString LinkageType;
+/// Name under which a plugin's setBaseData receives an account.
+extern ZRDEFINE_EXPORT const QString USER_ACCOUNT;
+/// Separator between the parts of a search box text.
+extern ZRDEFINE_EXPORT const QString SymbolSearch_Split;
+
+/// Keys of a strategy parameter description.
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_KEY;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_PARAMID;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_PARAMNAME;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_PARAMVALUE;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_PARAMDESC;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_VALUETYPE;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_WIDGETTYPE;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_WIDGETWIDTH;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_NAMEWIDTH;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_ROW;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_DISPLAYROLE;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_USERROLE;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_OPTIONS;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_INIT;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_MINVALUE;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_MAXVALUE;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_EXCLUSIVEMINVALUE;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_EXCLUSIVEMAXVALUE;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_PRECISION;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_STEP;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_VALUELENGTH;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_REGEXPVALIDATOR;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_CANBEEMPTY;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_EDITABLEAFTERRUNNING;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_EXTRAACTION;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_LINKPARAMID;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_LINKTYPE;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_HBOXLAYOUT;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_VBOXLAYOUT;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_VIEWDISPLAY;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_INITIALBASICPARAMDESCVISIABLE;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_INITIALBASICPARAMUI;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_INITIALBASICPARAMVISIABLE;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_INITIALBASICPARAMWIDTH;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_INITIALPARAMLAYOUT;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_INITIALPARAMVIEWPARAMLIST;
+extern ZRDEFINE_EXPORT const QString STRATEGYPARAM_INITIALPARAMVISIABLE;
+
+/// Value types of a parameter.
+extern ZRDEFINE_EXPORT const QString VALUETYPE_BOOL;
+extern ZRDEFINE_EXPORT const QString VALUETYPE_DATE;
+extern ZRDEFINE_EXPORT const QString VALUETYPE_DOUBLE;
+extern ZRDEFINE_EXPORT const QString VALUETYPE_INT;
+extern ZRDEFINE_EXPORT const QString VALUETYPE_INT64;
+extern ZRDEFINE_EXPORT const QString VALUETYPE_STRING;
+extern ZRDEFINE_EXPORT const QString VALUETYPE_TIME;
+
+/// Widget types of a parameter.
+extern ZRDEFINE_EXPORT const QString WIDGETTYPE_ACCOUNTCOMBOBOX;
+extern ZRDEFINE_EXPORT const QString WIDGETTYPE_CHECKBOX;
+extern ZRDEFINE_EXPORT const QString WIDGETTYPE_COMBOBOX;
+extern ZRDEFINE_EXPORT const QString WIDGETTYPE_DATETIME;
+extern ZRDEFINE_EXPORT const QString WIDGETTYPE_ZRSEARCHBOX;
+extern ZRDEFINE_EXPORT const QString WIDGETTYPE_LABEL;
+extern ZRDEFINE_EXPORT const QString WIDGETTYPE_LINEEDIT;
+extern ZRDEFINE_EXPORT const QString WIDGETTYPE_MULTICOMBOBOX;
+extern ZRDEFINE_EXPORT const QString WIDGETTYPE_RADIOBUTTON;
+extern ZRDEFINE_EXPORT const QString WIDGETTYPE_SPINBOX;
+extern ZRDEFINE_EXPORT const QString WIDGETTYPE_TIMEEDIT;
+} // namespace Constants
