@@ -84,8 +84,7 @@ ZrValueKind ZrFilterCondition::kindOfType(int type)
     case QMetaType::UnknownType:
         return ZrValueKind::Own;
     default:
-        return ZrNumber::fromVariant(QVariant(type, nullptr)).kind() == ZrNumber::None ? ZrValueKind::Text
-                                                                                       : ZrValueKind::Number;
+        return ZrNumber::isType(type) ? ZrValueKind::Number : ZrValueKind::Text;
     }
 }
 
