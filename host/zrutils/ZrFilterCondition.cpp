@@ -47,8 +47,10 @@ ZrClockTime ZrClockTime::fromVariant(const QVariant &value, ZrValueKind kind)
     if (type != QMetaType::QDate && type != QMetaType::QTime && type != QMetaType::QDateTime)
         return fromText(value.toString(), kind);
     // The clock that the value itself is told by, since that is the one its text was made with.
-    const QDate date = type == QMetaType::QDateTime ? value.toDateTime().date() : value.toDate();
-    const QTime time = type == QMetaType::QDateTime ? value.toDateTime().time() : value.toTime();
+    const auto *moment =
+        type == QMetaType::QDateTime ? static_cast<const QDateTime *>(value.constData()) : nullptr;
+    const QDate date = moment ? moment->date() : value.toDate();
+    const QTime time = moment ? moment->time() : value.toTime();
     const qint64 ofDay = time.isValid() ? time.msecsSinceStartOfDay() : 0;
     if (kind == ZrValueKind::Time)
         return {ofDay, 1, time.isValid()};

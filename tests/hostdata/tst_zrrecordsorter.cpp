@@ -262,6 +262,13 @@ void TestRecordSorter::oneColumnSortsByTheKindOfItsValues_data()
     QTest::newRow("a date is its first instant")
         << QVariantList{QDateTime(day, QTime(0, 1)), day, QDateTime(day.addDays(-1), QTime(23, 59))}
         << QList<int>{2, 1, 0};
+    QTest::newRow("moments of two zones by the instant")
+        << QVariantList{QDateTime(day, QTime(9, 0), Qt::UTC),
+                        QDateTime(day, QTime(10, 0), Qt::OffsetFromUTC, 8 * 3600)}
+        << QList<int>{1, 0};
+    QTest::newRow("local time, a day and UTC by the instant")
+        << QVariantList{QDateTime(day, QTime(12, 0)).toUTC().addSecs(1), QDateTime(day, QTime(12, 0)), day}
+        << QList<int>{2, 1, 0};
     QTest::newRow("times of day") << QVariantList{QTime(14, 0), QTime(9, 30)} << QList<int>{1, 0};
     QTest::newRow("an invalid date is no value")
         << QVariantList{day, QDate(), QTime()} << QList<int>{1, 2, 0};
