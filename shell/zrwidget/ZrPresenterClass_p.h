@@ -69,6 +69,8 @@ public:
     /// First code on the presenter's own thread.
     void Initial();
 
+    /// Asked before a line is put together: the lines of a request cost as much as its way over the bus.
+    static bool isDebugLogged();
     bool isDestroying() const;
     /// Why a request can't be sent, or 0.
     int refusal(const ZrPresenterCall &call, const CMessageCommon *msg) const;
