@@ -86,6 +86,8 @@ public:
     int waitInLoop(const ZrRequestMessage &request, CMessageCommon *msg, QVariant *response);
     int waitBlocked(const ZrRequestMessage &request, CMessageCommon *msg, QVariant *response,
                     unsigned long timeoutMs);
+    /// How long a blocked request waits that asks for this time; 0 asks for the presenter's own.
+    unsigned long blockTimeMs(unsigned long timeoutMs) const;
     /// One tick of the clock.
     void ageRequests();
 
@@ -105,7 +107,6 @@ signals:
 private:
     bool openLoop(const ZrEventLoop::Pointer &loop, const QString &clientMsgID);
     int closeLoop(ZrEventLoop *loop, const QString &clientMsgID);
-    unsigned long blockTimeMs(unsigned long timeoutMs) const;
     QVariant reportBlockTimeout(const ZrRequestMessage &request, ZrWaitCondition *waiter);
     void expire(const QString &clientMsgID);
     void expireSync(const ZrEventLoop &loop, const QString &clientMsgID);

@@ -180,6 +180,16 @@ ZrBusAnswer Probe::reply(const ZrBusRequest &request, const QString &type, const
     return {type, body(request.records.value(0).value(Fields::clientMsgID).toString(), more)};
 }
 
+void Probe::publish(ZrBusKind kind, const QVariant &type, const QVariant &body)
+{
+    ZrBusItem item;
+    item.kind = kind;
+    item.type = type;
+    item.body = body;
+    ZrBus::instance().publish(item);
+    ZrBus::instance().waitIdle(-1);
+}
+
 void Probe::tick(ZrPresenterClass *presenter)
 {
     const bool isHere = presenter->thread() == QThread::currentThread();

@@ -103,6 +103,8 @@ CMessageCommon *message(const QString &type, const QString &id, const QVariantMa
 /// Answer of a type to a request, as one record.
 ZrBusAnswer reply(const ZrBusRequest &request, const QString &type, const QVariantMap &more = QVariantMap());
 QVariant body(const QString &id, const QVariantMap &more = QVariantMap());
+/// To the subscribers of the type, as the back end would; has arrived when this returns.
+void publish(ZrBusKind kind, const QVariant &type, const QVariant &body);
 /// One tick of the presenter's clock, on its own thread, done when this returns.
 void tick(ZrPresenterClass *presenter);
 /// Asks the presenter to go and waits for it, its private part and its thread.
