@@ -9,7 +9,7 @@ constexpr int c_mantissaBits = 53;
 constexpr qint64 c_limbSize = qint64(1) << 32;
 
 // Carries upwards, so that each limb but the last holds its 32 bits.
-template <typename Limbs>
+template<typename Limbs>
 void carry(Limbs &limbs)
 {
     for (size_t i = 0; i + 1 < limbs.size(); ++i) {
@@ -104,7 +104,8 @@ double ZrRunningTotal::rounded(Limbs limbs) const
     size_t top = limbCount - 1;
     while (top > 0 && limbs[top] == 0)
         --top;
-    // The upper limbs as one integer; of those below only matters whether something is there, for the rounding.
+    // The upper limbs as one integer; of those below only matters whether something is there, for the
+    // rounding.
     __extension__ typedef unsigned __int128 Bits;
     Bits bits = Bits(quint64(limbs[top]));
     int lowest = int(top);

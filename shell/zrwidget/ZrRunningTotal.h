@@ -8,9 +8,11 @@
 
 /// The exact sum of numbers that come and go.
 ///
-/// Shape:  whole numbers in 128 bits; doubles in a fixed point that spans 2^-160 to 2^96. Nothing is rounded before
+/// Shape:  whole numbers in 128 bits; doubles in a fixed point that spans 2^-160 to 2^96. Nothing is rounded
+/// before
 ///         the total is asked for, so nothing drifts and no order of additions shows.
-/// Errors: doubles outside that span, infinities and NaN are only counted; hasOdd() says that the total is unusable.
+/// Errors: doubles outside that span, infinities and NaN are only counted; hasOdd() says that the total is
+/// unusable.
 class ZRWIDGET_PRIVATE_EXPORT ZrRunningTotal
 {
 public:
@@ -27,7 +29,7 @@ private:
     __extension__ typedef __int128 Wide;
     static constexpr int limbBits = 32;
     static constexpr int limbCount = 8;
-    static constexpr int unitBit = 160; // the bit that counts 1
+    static constexpr int unitBit = 160;          // the bit that counts 1
     using Limbs = std::array<qint64, limbCount>; // 32 bits each, the rest is room for carries
 
     void countReal(double value, int step);

@@ -18,7 +18,8 @@ bool ZrTableArrange::isSortable(int section) const
     return m_fields.perColumnSortable.value(section, m_fields.viewSortable);
 }
 
-// Only now: rows that come later stand where they were put, and updates move none. A running grid doesn't jump.
+// Only now: rows that come later stand where they were put, and updates move none. A running grid doesn't
+// jump.
 void ZrTableArrange::sort(int section, Qt::SortOrder order)
 {
     if (section < 0 || section >= m_fields.headList.size() || !isSortable(section))

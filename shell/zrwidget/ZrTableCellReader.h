@@ -20,8 +20,8 @@ public:
 private:
     static QVariant cellValue(const RecordData &record, int column, int role);
     static QVariant tip(const ItemRoleMap &cell);
-    static QVariant pseudoValue(const ZrTableModelPrivate &fields, const RecordData &record, int row, int column,
-                                int role);
+    static QVariant pseudoValue(const ZrTableModelPrivate &fields, const RecordData &record, int row,
+                                int column, int role);
     static QVariant serialValue(const ZrTableModelPrivate &fields, int row);
     static QVariant stateValue(const RecordData &record, int role);
 };

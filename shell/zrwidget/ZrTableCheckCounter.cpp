@@ -44,7 +44,8 @@ void ZrTableCheckCounter::changed(bool was, bool is)
         m_checked += int(is) - int(was);
 }
 
-// New rows mostly come at one end, so two numbers tell them; a row in the middle takes the nearer end with it.
+// New rows mostly come at one end, so two numbers tell them; a row in the middle takes the nearer end with
+// it.
 void ZrTableCheckCounter::rowInserted(int row, int rowCount)
 {
     if (row <= m_newAtFront)

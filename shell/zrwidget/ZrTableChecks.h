@@ -4,6 +4,7 @@
 
 #include <QtCore/QList>
 #include <QtCore/QString>
+#include <QtCore/QVariant>
 
 class QModelIndex;
 class ZrTableModelPrivate;

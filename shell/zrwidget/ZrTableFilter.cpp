@@ -14,7 +14,8 @@ ZrTableFilter::ZrTableFilter(const ZrTableModelPrivate &fields)
         return;
     for (const auto &head : fields.headList) {
         const int column = head.value(HEAD_COLUMNINDEX).toInt();
-        if (column >= 0 && fields.matchFunctions.value(column) && !fields.viewFilterList.value(column).isEmpty())
+        if (column >= 0 && fields.matchFunctions.value(column) &&
+            !fields.viewFilterList.value(column).isEmpty())
             m_functionColumns.append(column);
     }
 }
@@ -58,8 +59,8 @@ QVector<bool> ZrTableFilter::marks() const
     return marks;
 }
 
-// The host gives back records, not rows. They come in row order and mostly share their data with the rows, which
-// tells them apart at the cost of a pointer; a host that gives copies is asked for each row instead.
+// The host gives back records, not rows. They come in row order and mostly share their data with the rows,
+// which tells them apart at the cost of a pointer; a host that gives copies is asked for each row instead.
 void ZrTableFilter::markFound(const RecordDataList &found, QVector<bool> &marks) const
 {
     int next = 0;

@@ -25,6 +25,6 @@ private:
     void markFound(const RecordDataList &found, QVector<bool> &marks) const;
 
     const ZrTableModelPrivate &m_fields;
-    ViewFilterList m_hostFilters;  // without the columns that have a match function
-    QList<int> m_functionColumns;  // in head order, with a filter and a function
+    ViewFilterList m_hostFilters; // without the columns that have a match function
+    QList<int> m_functionColumns; // in head order, with a filter and a function
 };

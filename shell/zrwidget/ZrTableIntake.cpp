@@ -1,8 +1,8 @@
 #include "ZrTableIntake.h"
 
 #include "ZrTableModel_p.h"
-#include "ZrTableSignalScope.h"
 #include "ZrTableRows.h"
+#include "ZrTableSignalScope.h"
 
 #include <QtCore/QDebug>
 
@@ -31,8 +31,9 @@ void ZrTableIntake::logEviction() const
     qDebug() << "111111111111111111111111111111" << m_fields.modelData.size() << m_fields.maximumRowCount;
 }
 
-// The rows' numbers in the signals of this class are positions in the model, also in filter mode: callers rely on
-// exactly these numbers. settleViews() lets the views count again where that doesn't fit what is shown.
+// The rows' numbers in the signals of this class are positions in the model, also in filter mode: callers
+// rely on exactly these numbers. settleViews() lets the views count again where that doesn't fit what is
+// shown.
 void ZrTableIntake::evictFront(int count)
 {
     if (count <= 0)
@@ -79,7 +80,8 @@ void ZrTableIntake::add(const RecordData &record)
         m_fields.model->updataRecordData(record);
     if (kind != New)
         return;
-    const bool isFull = m_fields.modelData.size() >= m_fields.maximumRowCount && !m_fields.modelData.isEmpty();
+    const bool isFull =
+        m_fields.modelData.size() >= m_fields.maximumRowCount && !m_fields.modelData.isEmpty();
     const ZrTableSignalScope scope(m_fields, isFull && m_fields.filterable);
     if (isFull) {
         logEviction();
@@ -144,8 +146,8 @@ int ZrTableIntake::insert(int row, const RecordData &record)
 
 int ZrTableIntake::insertNew(int row, const RecordDataList &records, RecordDataList &existing, int &shown)
 {
-    const bool stepwise = records.size() < c_fewRecords;
     ZrTableRows &rows = m_fields.rows();
+    const bool stepwise = records.size() < c_fewRecords && rows.hasKeys() && rows.canFollow();
     int inserted = 0;
     for (int i = records.size() - 1; i >= 0; --i) { // from the last, so that the given order survives
         const RecordData &record = records.at(i);

@@ -70,8 +70,8 @@ void ZrTableKeyIndex::rebuild(const RecordDataList &rows, const QList<int> &keyC
         m_exact = rows.isEmpty();
         return;
     }
-    // The numbers start above all old ones, so that entries in use are overwritten in place (after a sort, that is
-    // every one of them) and those left over are told by their number.
+    // The numbers start above all old ones, so that entries in use are overwritten in place (after a sort,
+    // that is every one of them) and those left over are told by their number.
     m_base = m_highest + 1;
     m_highest = m_base + rows.size();
     m_numbers.reserve(rows.size());

@@ -26,8 +26,8 @@ bool bringsNothing(const ItemRoleMap &have, const ItemRoleMap &cell)
 
 } // namespace
 
-// Looks before it writes: a stored record may be shared with the caller who read or gave it, and an update that
-// brings nothing new must not cost a copy.
+// Looks before it writes: a stored record may be shared with the caller who read or gave it, and an update
+// that brings nothing new must not cost a copy.
 bool ZrTableMerge::mergeCell(RecordData &stored, int column, const ItemRoleMap &cell, ZrTableSums *sums)
 {
     const auto found = qAsConst(stored).constFind(column);

@@ -9,7 +9,8 @@ ZrTableRemovals::ZrTableRemovals(ZrTableModelPrivate &fields)
 {
 }
 
-// The rows are gone already: required order. A row that wasn't shown is told with the position -1 as it stands.
+// The rows are gone already: required order. A row that wasn't shown is told with the position -1 as it
+// stands.
 void ZrTableRemovals::tellRemoved(int row)
 {
     m_fields.beginRemove(row, row);
@@ -37,8 +38,8 @@ int ZrTableRemovals::remove(const RecordData &record)
     return 1;
 }
 
-// By shown position. All records that are filtered out share the position -1, so only the last of them stays noted
-// and only that one is deleted later, although each is counted: required.
+// By shown position. All records that are filtered out share the position -1, so only the last of them stays
+// noted and only that one is deleted later, although each is counted: required.
 int ZrTableRemovals::notePositions(const RecordDataList &records, QMap<int, QString> &noted) const
 {
     const ZrTableDisplayList &display = m_fields.displayKeyList;
@@ -57,8 +58,9 @@ int ZrTableRemovals::notePositions(const RecordDataList &records, QMap<int, QStr
     return count;
 }
 
-// From the highest position down, so that the key map's numbers still hold for the rows above. They don't for the
-// filtered-out one, which comes last: the row that its old number leads to goes. Required; it stays within bounds.
+// From the highest position down, so that the key map's numbers still hold for the rows above. They don't for
+// the filtered-out one, which comes last: the row that its old number leads to goes. Required; it stays
+// within bounds.
 void ZrTableRemovals::takeOut(const QMap<int, QString> &noted)
 {
     ZrTableRows &rows = m_fields.rows();
@@ -118,8 +120,8 @@ void ZrTableRemovals::removeRow(int row)
         tellRemoved(row);
 }
 
-// The row that leaves the model is that of the next shown record, not the shown one's own: required. Callers who
-// delete in filter mode use deleteRecordData().
+// The row that leaves the model is that of the next shown record, not the shown one's own: required. Callers
+// who delete in filter mode use deleteRecordData().
 void ZrTableRemovals::removeShownRow(int row)
 {
     ZrTableDisplayList &display = m_fields.displayKeyList;

@@ -81,7 +81,8 @@ void ZrTableSections::setWidth(int column, int widthPx)
     applyWidths();
 }
 
-// The signal is sent by hand as well, also where the width stays the same: the head of the summary line follows it.
+// The signal is sent by hand as well, also where the width stays the same: the head of the summary line
+// follows it.
 void ZrTableSections::resize(QHeaderView *header, int section, int widthPx)
 {
     header->resizeSection(section, widthPx);

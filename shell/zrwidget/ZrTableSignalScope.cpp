@@ -34,5 +34,5 @@ void ZrTableSignalScope::restore()
         const int row = m_keys.at(i).isEmpty() ? -1 : m_fields.model->getRowByKey(m_keys.at(i));
         now.append(m_fields.model->index(row, m_indexes.at(i).column()));
     }
-    m_fields.unparkIndexes(now);
+    m_fields.unparkIndexes(m_indexes, now);
 }

@@ -20,8 +20,9 @@ bool isSame(const QVariant &a, const QVariant &b)
     if (a.userType() != b.userType())
         return false;
     // Not by QVariant, which takes doubles that are nearly equal for equal.
-    return a.userType() == QMetaType::Double ? !(a.toDouble() < b.toDouble()) && !(a.toDouble() > b.toDouble())
-                                             : a == b;
+    return a.userType() == QMetaType::Double
+               ? !(a.toDouble() < b.toDouble()) && !(a.toDouble() > b.toDouble())
+               : a == b;
 }
 
 } // namespace

@@ -8,10 +8,12 @@
 
 /// Running totals of the shown rows' columns.
 ///
-/// Shape:  off until start(). A reader compares once with the host's sum of all rows; from then on each cell that
+/// Shape:  off until start(). A reader compares once with the host's sum of all rows; from then on each cell
+/// that
 ///         comes, goes or changes is counted in. When a column gains or loses a kind of number, the next read
 ///         compares again.
-/// Errors: while the host sums by another rule, or a number doesn't fit, agrees() is false and the host's own sum
+/// Errors: while the host sums by another rule, or a number doesn't fit, agrees() is false and the host's own
+/// sum
 ///         is to be used.
 class ZRWIDGET_PRIVATE_EXPORT ZrTableSums
 {
@@ -36,7 +38,8 @@ public:
     QList<int> takeChangedColumns();
 
 private:
-    struct Column {
+    struct Column
+    {
         ZrRunningTotal numbers;
         int truthValues = 0; // cells that hold a bool
         int trueValues = 0;  // of them, true

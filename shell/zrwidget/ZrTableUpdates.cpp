@@ -39,7 +39,8 @@ ZrTableUpdates::Change ZrTableUpdates::merge(const RecordData &record)
     if (isCounted)
         m_fields.checkCounter.changed(wasChecked, ZrTableCheckCounter::isChecked(stored));
     const auto isKey = [this](int column) { return m_fields.keyColumns.contains(column); };
-    if (std::any_of(change.columns.cbegin(), change.columns.cend(), isKey) && m_fields.makeKey(stored) != change.key)
+    if (std::any_of(change.columns.cbegin(), change.columns.cend(), isKey) &&
+        m_fields.makeKey(stored) != change.key)
         rows.keyChanged(row, change.key);
     rows.learnTypes(record);
     if (m_fields.filterable) {
@@ -168,7 +169,8 @@ void ZrTableUpdates::replaceAll(const RecordDataList &records)
     }
     m_fields.rows().replaceAll(kept);
     m_fields.indexWidgets.clear();
-    // The reset stands before the rebuild: required. In filter mode the views so first meet the old display list.
+    // The reset stands before the rebuild: required. In filter mode the views so first meet the old display
+    // list.
     m_fields.resetViews();
     m_fields.updateHeadCheckState();
     m_fields.rows().rebuild();

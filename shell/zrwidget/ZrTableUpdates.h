@@ -16,11 +16,12 @@ public:
     void replaceAll(const RecordDataList &records);
 
 private:
-    struct Change {
-        int row = -1;         // of the model; -1: nothing is new
+    struct Change
+    {
+        int row = -1; // of the model; -1: nothing is new
         QString key;
-        QList<int> columns;   // that changed
-        int position = -1;    // where the row was shown; -1: it wasn't
+        QList<int> columns; // that changed
+        int position = -1;  // where the row was shown; -1: it wasn't
         bool isMatch = true;
     };
     Change merge(const RecordData &record);
