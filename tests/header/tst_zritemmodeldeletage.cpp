@@ -87,7 +87,8 @@ QImage tst_ZrItemModelDeletage::paint(const QModelIndex &index, QStyle::State st
 
 ZrTableModel *tst_ZrItemModelDeletage::tableModel(const ItemRoleMap &stateCell, const QString &text)
 {
-    auto *const model = new ZrTableModel(m_widget.get());
+    // The model sets the widths of the table that is its parent.
+    auto *const model = new ZrTableModel(new QTableView(m_widget.get()));
     model->setHeaderData(HeadList{{{HEAD_COLUMNINDEX, 0}, {HEAD_DISPLAYROLE, "c0"}}});
     model->setCheckBoxShow(true);
     RecordData row;
