@@ -10,6 +10,7 @@ namespace {
 constexpr qint64 secondMs = 1000;
 constexpr qint64 minuteMs = 60 * secondMs;
 constexpr qint64 dayMs = 24 * 60 * minuteMs;
+constexpr qint64 farthestDay = Q_INT64_C(100000000000);
 
 int placeOf(ZrValueKind kind)
 {
@@ -18,7 +19,8 @@ int placeOf(ZrValueKind kind)
 
 qint64 startOf(const QDate &date)
 {
-    return date.toJulianDay() * dayMs;
+    // An invalid date, and one beyond all calendars, lies outside of what 64 bits count in ms.
+    return qBound(-farthestDay, date.toJulianDay(), farthestDay) * dayMs;
 }
 
 /// "hh:mm", then optionally ":ss", then ".zzz" or ":zzz".

@@ -11,7 +11,8 @@
 namespace {
 constexpr quint64 signBit = quint64(1) << 63;
 constexpr qint64 dayMs = 24 * 60 * 60 * 1000;
-constexpr qint64 epochDay = 2440588;           // Julian day of the first day of 1970
+constexpr qint64 epochDay = 2440588; // Julian day of the first day of 1970
+constexpr qint64 farthestDay = Q_INT64_C(100000000000);
 constexpr qint64 exactReals = qint64(1) << 53; // whole numbers up to here are doubles too
 
 /// Bits of a signed number, so that the order of the bits is that of the numbers.
@@ -38,7 +39,9 @@ const T &stored(const QVariant &value)
 /// Milliseconds of the clock on the wall since that clock told the start of 1970.
 qint64 wallClockMs(const QDateTime &moment)
 {
-    return (moment.date().toJulianDay() - epochDay) * dayMs + moment.time().msecsSinceStartOfDay();
+    // Dates beyond all calendars lie outside of what 64 bits count in ms.
+    return qBound(-farthestDay, moment.date().toJulianDay() - epochDay, farthestDay) * dayMs +
+           moment.time().msecsSinceStartOfDay();
 }
 
 qint64 instantOfWallClock(qint64 ms)
