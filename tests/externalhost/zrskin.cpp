@@ -1,0 +1,4 @@
+#include "zrskin/IZrSkin.h"
+
+IZrSkin::IZrSkin() = default;
+IZrSkin::~IZrSkin() = default;

@@ -1,0 +1,155 @@
+#!/usr/bin/env python3
+"""Plants violations in a small repository and expects each checker to name them, and nothing else."""
+import importlib
+import json
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+SCRIPTS = pathlib.Path(__file__).resolve().parents[2] / "scripts"
+sys.path[:0] = [str(SCRIPTS), str(SCRIPTS / "checks")]
+sys.dont_write_bytecode = True
+
+LIST = """# --- base: grid ---
+zr_unit(ZrLow)
+# --- control: grid ---
+zr_unit(ZrHigh)
+# --- compound: form ---
+zr_unit(ZrForm)
+"""
+ROWS = """| Unit | Job | Layer | Exported | Test | Showcase |
+|---|---|---|---|---|---|
+| `ZrLow` | lies below | base | no | tst_zrlow | - |
+| `ZrHigh` | stands above | control | yes | tst_zrhigh | - |
+| `ZrForm` | asks | compound | yes | tst_zrform | - |
+"""
+
+
+class Planted(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.root = pathlib.Path(folder.name)
+        subprocess.run(["git", "init", "-q", str(self.root)], check=True)
+        self.write("shell/zrwidget/CMakeLists.txt", LIST)
+        self.write("shell/zrwidget/README.md", ROWS)
+        for name in ("ZrLow", "ZrHigh", "ZrForm"):
+            self.write(f"shell/zrwidget/{name}.h", "#pragma once\n")
+            self.write(f"tests/grid/tst_{name.lower()}.cpp", "\n")
+
+    def write(self, name, text):
+        path = self.root / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(text, encoding="utf-8")
+
+    def expect(self, checker, *parts):
+        found = importlib.import_module(checker).complaints(self.root)
+        self.assertEqual(len(found), len(parts), found)
+        for part in parts:
+            self.assertTrue(any(part in line for line in found), (part, found))
+
+
+class Layers(Planted):
+    def test_clean_tree_is_clean(self):
+        self.expect("layers")
+
+    def test_include_of_a_higher_layer(self):
+        self.write("shell/zrwidget/ZrLow.h", '#include "ZrHigh.h"\n')
+        self.expect("layers", "base may not include ZrHigh.h")
+
+    def test_private_header_of_another_family(self):
+        self.write("shell/zrwidget/ZrHigh_p.h", "#pragma once\n")
+        self.write("shell/zrwidget/ZrForm.cpp", '#include "ZrHigh_p.h"\n')
+        self.expect("layers", "ZrHigh_p.h belongs to the family 'grid'")
+
+    def test_private_header_of_the_own_family(self):
+        self.write("shell/zrwidget/ZrLow_p.h", "#pragma once\n")
+        self.write("shell/zrwidget/ZrHigh.cpp", '#include "ZrLow_p.h"\n')
+        self.expect("layers")
+
+    def test_header_cycle(self):
+        self.write("shell/zrwidget/ZrHigh.h", '#include "ZrHigh_p.h"\n')
+        self.write("shell/zrwidget/ZrHigh_p.h", '#include "ZrHigh.h"\n')
+        self.expect("layers", "header cycle")
+
+    def test_unlisted_file(self):
+        self.write("shell/zrwidget/ZrStray.cpp", "\n")
+        self.expect("layers", "ZrStray.cpp: not in the list")
+
+    def test_shell_includes_the_reference_host(self):
+        self.write("shell/zrwidget/ZrHigh.cpp", '#include "ZrReferenceHost.h"\n')
+        self.expect("layers", "shell never includes host/")
+
+    def test_host_includes_the_library(self):
+        self.write("host/zrcore/ZrCore.cpp", '#include "ZrHigh.h"\n')
+        self.expect("layers", "host never includes shell/zrwidget")
+
+    def test_body_among_the_declarations(self):
+        self.write("hostapi/zrcore/ZrCore.h", "class ZrCore {\n    int id() const { return 1; }\n};\n")
+        self.expect("layers", "declarations only")
+
+    def test_plugin_uses_a_private_header(self):
+        self.write("plugins/depth/Depth.cpp", '#include "ZrHigh_p.h"\n')
+        self.expect("layers", "plugins use only installed headers")
+
+
+class Sizes(Planted):
+    def test_long_file(self):
+        self.write("host/a.cpp", "int x;\n" * 801)
+        self.expect("sizes", "801 lines; 800 is the most")
+
+    def test_long_function(self):
+        self.write("host/a.cpp", "int f()\n{\n" + "    g();\n" * 79 + "}\n")
+        self.expect("sizes", "81 lines in int f()")
+
+    def test_long_class_and_table_pass(self):
+        body = "    g();\n" * 100
+        self.write("host/a.cpp", f"class A\n{{\n{body}}};\n\nvoid T::rows_data()\n{{\n{body}}}\n")
+        self.expect("sizes")
+
+
+class Words(Planted):
+    def test_unfinished_work_and_machine_paths(self):
+        self.write("host/a.cpp", "// TO" + "DO later\n// FIX" + "ME\nopen(\"/ho" + "me/me/x\");\n")
+        self.expect("words", "needs the condition", "unfinished by its own words", "path of one machine")
+
+    def test_trailing_blanks(self):
+        self.write("host/a.cpp", "int x; \n")
+        self.expect("words", "ends in blanks")
+
+
+class Rows(Planted):
+    def test_clean(self):
+        self.expect("rows")
+
+    def test_missing_row_missing_test_wrong_layer(self):
+        self.write("shell/zrwidget/README.md", ROWS.replace("| `ZrLow`", "| `ZrGone`").replace("| control", "| draw"))
+        self.write("tests/grid/tst_zrform.cpp", "\n")
+        (self.root / "tests/grid/tst_zrform.cpp").unlink()
+        self.expect("rows", "no row for ZrLow", "ZrGone has a row but is no unit", "ZrHigh: layer draw", "tst_zrform.cpp does not exist")
+
+
+class Report(unittest.TestCase):
+    GOOD = {"seconds": 10.0, "messages_in": 5, "messages_lost": 0, "rows": 1, "updates_applied": 4, "frames": 3, "cpu_seconds": 1,
+            "rss_mb": 90, "feed_to_model_us": {"p50": 1, "p99": 2, "max": 3}, "feed_to_pixel_us": {"p50": 1, "p99": 2, "max": 3}}
+
+    def complaints(self, **changes):
+        return list(importlib.import_module("check_report").complaints(json.loads(json.dumps({**self.GOOD, **changes}))))
+
+    def test_good(self):
+        self.assertEqual(self.complaints(), [])
+
+    def test_lost_messages(self):
+        self.assertEqual(self.complaints(messages_lost=2), ["2 messages were lost"])
+
+    def test_nothing_painted(self):
+        self.assertEqual(self.complaints(frames=0), ["frames is zero: nothing ran"])
+
+    def test_missing_time(self):
+        self.assertEqual(self.complaints(feed_to_pixel_us={"p50": 1, "max": 3}), ["feed_to_pixel_us.p99 is missing or no number"])
+
+
+if __name__ == "__main__":
+    unittest.main()
