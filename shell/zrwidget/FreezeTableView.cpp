@@ -122,14 +122,16 @@ void FreezeTableView::setAlternatingRowColors(bool enable)
 void FreezeTableView::setDefaultSectionSize(int widthPx)
 {
     horizontalHeader()->setDefaultSectionSize(widthPx);
-    m_panes->forEachPane([this, widthPx](QAbstractItemView *pane) { m_grid.head(pane)->setDefaultSectionSize(widthPx); });
+    m_panes->forEachPane(
+        [this, widthPx](QAbstractItemView *pane) { m_grid.head(pane)->setDefaultSectionSize(widthPx); });
     m_panes->relay();
 }
 
 void FreezeTableView::setMinimumSectionSize(int widthPx)
 {
     horizontalHeader()->setMinimumSectionSize(widthPx);
-    m_panes->forEachPane([this, widthPx](QAbstractItemView *pane) { m_grid.head(pane)->setMinimumSectionSize(widthPx); });
+    m_panes->forEachPane(
+        [this, widthPx](QAbstractItemView *pane) { m_grid.head(pane)->setMinimumSectionSize(widthPx); });
     m_panes->relay();
 }
 

@@ -103,13 +103,14 @@ void ZrFrozenPanes::connectPaneHead(ZrFrozenSide *pane)
     QHeaderView *const mainHead = m_grid->head(m_main);
     connect(head, &QHeaderView::sectionResized, this,
             [this, head](int section, int, int newSizePx) { sectionResized(head, section, newSizePx); });
-    connect(head, &QHeaderView::sortIndicatorChanged, this, [this, head, mainHead](int section, Qt::SortOrder order) {
-        sortIndicatorChanged(head);
-        // The main head tells everybody, itself included: without the note the pane's own indicator would
-        // be switched off as another head's.
-        const QScopedValueRollback<const QHeaderView *> source(m_sortSource, head);
-        emit mainHead->sortIndicatorChanged(section, order);
-    });
+    connect(head, &QHeaderView::sortIndicatorChanged, this,
+            [this, head, mainHead](int section, Qt::SortOrder order) {
+                sortIndicatorChanged(head);
+                // The main head tells everybody, itself included: without the note the pane's own indicator
+                // would be switched off as another head's.
+                const QScopedValueRollback<const QHeaderView *> source(m_sortSource, head);
+                emit mainHead->sortIndicatorChanged(section, order);
+            });
     const ZrHeaderView *const zrHead = qobject_cast<ZrHeaderView *>(head);
     const ZrHeaderView *const zrMainHead = qobject_cast<ZrHeaderView *>(mainHead);
     if (zrHead && zrMainHead)
@@ -271,7 +272,8 @@ bool ZrFrozenPanes::eventFilter(QObject *watched, QEvent *event)
     const QEvent::Type type = event->type();
     // The right pane is as much wider as its bar, which comes and goes with the rows; a head that grows
     // for its second band makes the panes taller.
-    if (type == QEvent::Show || type == QEvent::Hide || (type == QEvent::Resize && watched == m_grid->head(m_main)))
+    if (type == QEvent::Show || type == QEvent::Hide ||
+        (type == QEvent::Resize && watched == m_grid->head(m_main)))
         place();
     return QObject::eventFilter(watched, event);
 }

@@ -76,12 +76,12 @@ private:
     void mirrorSectionMove(int section, int newVisual);
     int countOf(const ZrFrozenSide *pane) const;
 
-    QAbstractItemView *const m_main;             // borrowed: our parent
-    const ZrFrozenGrid *const m_grid;            // borrowed
-    ZrFrozenHost *m_host = nullptr;              // borrowed
-    ZrFrozenSide *const m_left;                  // our child
-    ZrFrozenSide *const m_right;                 // our child
-    const QHeaderView *m_sortSource = nullptr;   // head whose sort is being told by the main head
+    QAbstractItemView *const m_main;           // borrowed: our parent
+    const ZrFrozenGrid *const m_grid;          // borrowed
+    ZrFrozenHost *m_host = nullptr;            // borrowed
+    ZrFrozenSide *const m_left;                // our child
+    ZrFrozenSide *const m_right;               // our child
+    const QHeaderView *m_sortSource = nullptr; // head whose sort is being told by the main head
     bool m_isMatchingWidths = false;
     bool m_isMatchingCurrent = false;
 };

@@ -104,7 +104,8 @@ void ZrFrozenSide::hideColumns(const ZrFrozenHost *host)
     const int frozenCount = host ? host->frozenColumnCount(m_side) : 0;
     for (int visual = 0; visual < own->count(); ++visual) {
         const int column = own->logicalIndex(visual);
-        const bool isHidden = !isFrozenPosition(visual, frozenCount) || (host && host->isColumnHiddenByHead(column));
+        const bool isHidden =
+            !isFrozenPosition(visual, frozenCount) || (host && host->isColumnHiddenByHead(column));
         if (own->isSectionHidden(column) != isHidden)
             m_grid->setColumnHidden(m_view, column, isHidden);
     }
@@ -119,7 +120,8 @@ void ZrFrozenSide::copyWidths()
     const int count = qMin(own->count(), mainHead->count());
     for (int section = 0; section < count; ++section) {
         // A hidden section has no size to copy; its own one comes back when it is shown.
-        if (!mainHead->isSectionHidden(section) && own->sectionSize(section) != mainHead->sectionSize(section))
+        if (!mainHead->isSectionHidden(section) &&
+            own->sectionSize(section) != mainHead->sectionSize(section))
             own->resizeSection(section, mainHead->sectionSize(section));
     }
 }
@@ -145,7 +147,8 @@ QRect ZrFrozenSide::geometryPx(int frozenCount) const
     const int columnsPx = columnsWidthPx(frozenCount);
     const int framePx = m_main->frameWidth();
     if (m_side == ZrHeaderHost::Side::Left)
-        return {m_main->x() + framePx + m_grid->leftInsetPx(m_main), m_main->y() + framePx, columnsPx, heightPx};
+        return {m_main->x() + framePx + m_grid->leftInsetPx(m_main), m_main->y() + framePx, columnsPx,
+                heightPx};
     // The right pane lies over the main view's own vertical bar and so brings one itself.
     const QScrollBar *const bar = m_view->verticalScrollBar();
     const int widthPx = columnsPx + (bar->isVisible() ? bar->width() : 0);

@@ -7,7 +7,8 @@
 #include <QtCore/QRect>
 #include <QtWidgets/QAbstractItemView>
 
-/// One frozen pane: a view of the main view's model over its left or right edge, with the frozen columns only.
+/// One frozen pane: a view of the main view's model over its left or right edge, with the frozen columns
+/// only.
 ///
 /// Shape:     exists always; has a view only between create() and remove().
 /// Units:     px in the coordinates of the main view's parent; columns are view columns.
@@ -19,7 +20,8 @@ class ZRWIDGET_PRIVATE_EXPORT ZrFrozenSide : public QObject
 {
     Q_OBJECT
 public:
-    ZrFrozenSide(ZrHeaderHost::Side side, QAbstractItemView *mainView, const ZrFrozenGrid *grid, QObject *panes);
+    ZrFrozenSide(ZrHeaderHost::Side side, QAbstractItemView *mainView, const ZrFrozenGrid *grid,
+                 QObject *panes);
     ~ZrFrozenSide() override;
 
     /// Makes the view with everything that it copies from the main view; it is not shown yet.
@@ -47,7 +49,7 @@ private:
     QRect geometryPx(int frozenCount) const;
 
     const ZrHeaderHost::Side m_side;
-    QAbstractItemView *const m_main;       // borrowed: owns the panes
-    const ZrFrozenGrid *const m_grid;      // borrowed
-    QPointer<QAbstractItemView> m_view;    // owned by the main view's parent widget
+    QAbstractItemView *const m_main;    // borrowed: owns the panes
+    const ZrFrozenGrid *const m_grid;   // borrowed
+    QPointer<QAbstractItemView> m_view; // owned by the main view's parent widget
 };

@@ -9,7 +9,8 @@ namespace {
 constexpr int retryMs = 10;
 }
 
-ZrGroupedHeadHeight::ZrGroupedHeadHeight(FreezeTableView *table, int *timerId, bool *isDoubled, QObject *parent)
+ZrGroupedHeadHeight::ZrGroupedHeadHeight(FreezeTableView *table, int *timerId, bool *isDoubled,
+                                         QObject *parent)
     : QObject(parent)
     , m_table(table)
     , m_timerId(timerId)

@@ -2,13 +2,13 @@
 
 #include "FreezeTableView.h"
 #include "ZrColumnOrder.h"
+#include "zrcore/ZrCore.h"
+#include "zrdefine/Constants.h"
 #include "ZrGroupedHeadHeight.h"
 #include "ZrHeaderView.h"
 #include "ZrRoleKeys.h"
 #include "ZrTableModel_p.h"
 #include "ZrTableView_p.h"
-#include "zrcore/ZrCore.h"
-#include "zrdefine/Constants.h"
 
 #include <QtCore/QDebug>
 #include <QtCore/QScopedValueRollback>
@@ -117,7 +117,7 @@ void ZrTableColumns::setColumnShow(int position, bool show)
     d->table->setColumnHidden(viewColumn, !show);
     if (d->summaryTable)
         d->summaryTable->setColumnHidden(viewColumn, !show);
-    d->view->columnShown(viewColumn, show);
+    d->tellColumnShown(viewColumn, show);
 }
 
 void ZrTableColumns::setHidden(const QList<int> &logicalColumns)

@@ -43,7 +43,8 @@ public:
 
     void setDefaultWidth(int widthPx);
     void setMinimumWidth(int widthPx);
-    /// Runs `change`, which adds or takes a pseudo-column: each column keeps its place and stays hidden or shown.
+    /// Runs `change`, which adds or takes a pseudo-column: each column keeps its place and stays hidden or
+    /// shown.
     void changePseudoColumns(const std::function<void()> &change);
     /// After the main head was replaced: order, hidden columns and widths of the old one.
     void dressHeader(const QList<int> &shownOrder);

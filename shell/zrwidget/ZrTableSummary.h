@@ -11,8 +11,8 @@ class ZrTableViewPrivate;
 
 /// The summary line under a grid: its table and the row that it shows.
 ///
-/// A live grid changes many thousand times a second, and each change makes the row stale. So a change only marks it;
-/// the row is made when somebody reads it, and the table is told once per frame.
+/// A live grid changes many thousand times a second, and each change makes the row stale. So a change only
+/// marks it; the row is made when somebody reads it, and the table is told once per frame.
 ///
 /// Shape:     one per view; the parts are shared fields of the view's private object and exist while enabled.
 /// Units:     logical columns.

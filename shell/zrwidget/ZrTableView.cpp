@@ -1,6 +1,8 @@
 #include "ZrTableView.h"
 
 #include "FreezeTableView.h"
+#include "zrcore/ZrCore.h"
+#include "zrdefine/Constants.h"
 #include "ZrGroupedHeadHeight.h"
 #include "ZrHeaderView.h"
 #include "ZrItemModelDeletage.h"
@@ -9,8 +11,6 @@
 #include "ZrTableModel_p.h"
 #include "ZrTableSummary.h"
 #include "ZrTableView_p.h"
-#include "zrcore/ZrCore.h"
-#include "zrdefine/Constants.h"
 
 #include <QtCore/QDebug>
 
@@ -21,7 +21,8 @@ ZrTableView::ZrTableView(QWidget *parent)
     // So that a filter state can travel in queued signals.
     qRegisterMetaType<ViewFilterList>("QMap<int, QList<QList<QVariantMap>>>");
     d->createParts(parent);
-    ZrCore::instance()->addStyle2View(this, Constants::SKIN_SYSTEM + QStringLiteral("zrwidget/zrtableview.css"));
+    ZrCore::instance()->addStyle2View(this,
+                                      Constants::SKIN_SYSTEM + QStringLiteral("zrwidget/zrtableview.css"));
     d->table->installEventFilter(this);
 }
 

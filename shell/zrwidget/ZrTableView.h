@@ -1,9 +1,9 @@
 #pragma once
 
+#include "zrskin/IZrSkin.h"
 #include "ZrTableModel.h"
 #include "ZrViewBase.h"
 #include "ZrViewModel.h"
-#include "zrskin/IZrSkin.h"
 
 #include <QtCore/QModelIndex>
 #include <QtCore/QUrl>
@@ -18,9 +18,11 @@ class ZrTableViewPrivate;
 /// Makes the summary cell of a column from all rows, the filtered ones included.
 using ZrSumGenerateFunction = QMap<QString, QVariant> (*)(const int &column, const RecordDataList &rows);
 
-/// The grid that plugins place in their windows: keyed rows, grouped and frozen columns, check boxes, summary.
+/// The grid that plugins place in their windows: keyed rows, grouped and frozen columns, check boxes,
+/// summary.
 ///
-/// Shape:     composes a table (with frozen side tables), head, model, delegate and, on demand, a summary table
+/// Shape:     composes a table (with frozen side tables), head, model, delegate and, on demand, a summary
+/// table
 ///            under the grid. Most members forward to one of them.
 ///
 ///     +--------------------------------+

@@ -106,8 +106,7 @@ void ZrTableViewPrivate::connectModelAndHeader()
     connect(header, &QHeaderView::sortIndicatorChanged, view, &ZrTableView::signalSortIndicatorChanged);
     connect(model, &ZrTableModel::stateChanged, header, &ZrHeaderView::onStateChanged);
     connect(header, &ZrHeaderView::stateChanged, model, &ZrTableModel::onStateChanged);
-    connect(header, &QHeaderView::sectionResized, this,
-            &ZrTableViewPrivate::slotOnTableHeadSectionResized);
+    connect(header, &QHeaderView::sectionResized, this, &ZrTableViewPrivate::slotOnTableHeadSectionResized);
     connect(model, &ZrTableModel::signalRowCheckStateChanged, view, &ZrTableView::signalRowCheckStateChanged);
     connect(header, &ZrHeaderView::stateChanged, view, &ZrTableView::signalHeadCheckStateChanged);
     connect(header, &ZrHeaderView::signalFilterListChanged, view, &ZrTableView::signalFilterListChanged);
@@ -145,7 +144,8 @@ void ZrTableViewPrivate::installHeader(ZrHeaderView *newHeader)
     old->disconnect(model);
     model->disconnect(old);
     model->disconnect(view);
-    // The call may come from the old head's own signal: it leaves the table, or the table would delete it now.
+    // The call may come from the old head's own signal: it leaves the table, or the table would delete it
+    // now.
     old->hide();
     old->setParent(view);
     old->deleteLater();
@@ -205,6 +205,11 @@ void ZrTableViewPrivate::updateModels()
     model->update();
     if (summaryModel)
         summaryModel->update();
+}
+
+void ZrTableViewPrivate::tellColumnShown(int viewColumn, bool shown)
+{
+    view->columnShown(viewColumn, shown);
 }
 
 bool ZrTableViewPrivate::wouldCutGroup(int side, int count) const

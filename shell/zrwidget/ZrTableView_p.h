@@ -19,7 +19,8 @@ class ZrTableSummary;
 
 /// What a table view holds, for its family: the frozen panes, the head, the plugin frame.
 ///
-/// Shape:     the family reads the shared fields. Plain settings may be written directly; heads, order, summary and
+/// Shape:     the family reads the shared fields. Plain settings may be written directly; heads, order,
+/// summary and
 ///            frozen columns change through the view.
 /// Ownership: child of its view, deleted in the view's destructor before the parts.
 /// Threads:   GUI thread only.
@@ -44,9 +45,9 @@ public:
     ZrTableModel *summaryModel = nullptr;
     ZrHeaderView *summaryHeader = nullptr;
     ZrItemModelDeletage *summaryDelegate = nullptr;
-    RecordData summaryOverrideRecord;                        // by logical column
-    QMap<int, ZrSumGenerateFunction> sumGenerateFunctions;   // by logical column
-    QUrl checkPath; // paths relative to the skin's folder
+    RecordData summaryOverrideRecord;                      // by logical column
+    QMap<int, ZrSumGenerateFunction> sumGenerateFunctions; // by logical column
+    QUrl checkPath;                                        // paths relative to the skin's folder
     QUrl uncheckPath;
     QUrl tristatePath;
     int itemHeight = 20; // px
@@ -102,6 +103,7 @@ public:
     void setColumnSortable(int column, bool sortable);
     void setCaption(const QString &caption);
     void updateModels();
+    void tellColumnShown(int viewColumn, bool shown);
 
     // --- Building and replacing the parts ---
     void createParts(QWidget *parentArgument);

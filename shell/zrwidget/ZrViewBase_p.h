@@ -10,7 +10,7 @@ class ZrViewBasePrivate : public QObject
 public:
     explicit ZrViewBasePrivate(QObject *view);
 
-    QString caption;                    // under which the plugin keeps this grid's settings
+    QString caption; // under which the plugin keeps this grid's settings
     bool canCfgFromPluginSetting = false;
     bool rowCheckOnClickEnable = false; // a click anywhere in a row ticks it
 };

@@ -10,7 +10,8 @@ ZrViewRegistry *registryAt(QObject *widget)
         return own;
     const QObjectList &children = widget->children();
     for (QObject *const child : children) {
-        ZrViewRegistry *const registry = child->isWidgetType() ? nullptr : qobject_cast<ZrViewRegistry *>(child);
+        ZrViewRegistry *const registry =
+            child->isWidgetType() ? nullptr : qobject_cast<ZrViewRegistry *>(child);
         if (registry)
             return registry;
     }
