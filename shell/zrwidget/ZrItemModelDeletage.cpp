@@ -90,7 +90,7 @@ void ZrItemModelDeletage::drawCheckBox(QPainter *painter, const QRect &rect, con
             ZrSkinPixmap::draw(painter, box, index.data(ZrRawRole).toBool() ? d->checkPath : d->uncheckPath);
         return;
     }
-    if (!qobject_cast<const ZrTristateRows *>(model) || !index.internalPointer() ||
+    if (!qobject_cast<ZrTristateRows *>(model) || !index.internalPointer() ||
         index.data(ZrSecondRawRole).toBool())
         return;
     box.translate(treeCheckShiftPx, 0);
