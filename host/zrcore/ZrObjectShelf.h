@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QtCore/QHash>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <functional>
+
+class QObject;
+
+/// The objects that the client can make by ID: registered in code, or plugins found in a folder.
+///
+/// Shape:     a plugin file's meta data holds "pluginId"; only that is read until the object is asked
+///            for. What is registered in code goes before a file of the same ID.
+/// Ownership: makers are kept; what they make is the caller's.
+/// Threads:   GUI thread only.
+/// Errors:    a file that is no plugin or names no ID is skipped.
+class ZrObjectShelf
+{
+public:
+    using Maker = std::function<QObject *()>;
+
+    /// An empty maker takes the ID away.
+    void setMaker(const QString &id, Maker maker);
+    /// Reads which plugins lie in the folder; empty for none.
+    void setFolder(const QString &folder);
+    void clear();
+    bool knows(const QString &id) const;
+    QStringList ids() const;
+    QObject *make(const QString &id) const;
+
+private:
+    QHash<QString, Maker> m_makers;
+    QHash<QString, QString> m_files; // ID to the plugin file's path
+};
