@@ -6,9 +6,8 @@
 
 /// Role keys of a cell and keys of a column head.
 ///
-/// A role key is the decimal text of an item role number. The texts are made once at start-up, so that a look-up
-/// in a cell never builds a string.
-/// Threads: any; the texts never change.
+/// A role key is the decimal text of an item role number. The texts are made once at start-up, so that a
+/// look-up in a cell never builds a string. Threads: any; the texts never change.
 
 /// Numbers of the roles that the grids know by name. Any other role may stand in a cell as well.
 enum ZrItemRole {
