@@ -34,13 +34,16 @@ public:
     /// Display name of the security; `post` narrows a bare code to one market and may be empty.
     QString GetSecurityChineseName(const QString &symbol, const QString &post) const;
     QMap<QString, QVariant> GetSecurityDetailsBySymbol(const QString &symbol) const;
+    /// Without the dot; an unlisted symbol still tells a market by a known suffix.
     QString GetSymbolPostBySymbol(const QString &symbol) const;
     /// ID of a symbol under an ID source; `post` as above.
     QString getSecurityIDBySymbol(const QString &symbol, const QString &post, const QString &idSource) const;
-    /// All symbols of a security type, of a sub type and a post where these aren't empty; `tradable`
-    /// leaves out what can't be traded, `markets` limits the posts unless it is empty.
-    QStringList GetAllSymbolByType(const QString &type, const QString &subType, const QString &post, bool tradable,
-                                   const QStringList &markets) const;
+    /// All securities of a type, a sub type and a post, an empty one of these meaning any; `tradable`
+    /// leaves out what can't be traded, `markets` limits the posts unless it is empty. Each entry is a
+    /// candidate as the search box takes it: symbol, name and search key, joined by
+    /// Constants::SymbolSearch_Split.
+    QStringList GetAllSymbolByType(const QString &type, const QString &subType, const QString &post,
+                                   bool tradable, const QStringList &markets) const;
 
 private:
     CBusinessDataBase();

@@ -1,0 +1,8 @@
+#include "zrutils/ZrThread.h"
+
+ZrThread::ZrThread(QObject *parent)
+    : QThread(parent)
+{
+}
+
+ZrThread::~ZrThread() = default;
