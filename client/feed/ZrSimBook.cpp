@@ -73,3 +73,13 @@ QVector<ZrFeedLevel> ZrSimBook::best(const Side &side, int levels)
     }
     return result;
 }
+
+QVector<ZrFeedLevel> ZrSimBook::asks(int levels) const
+{
+    return best(m_asks, levels);
+}
+
+QVector<ZrFeedLevel> ZrSimBook::bids(int levels) const
+{
+    return best(m_bids, levels);
+}

@@ -28,8 +28,8 @@ public:
     QVector<Match> enter(ZrFeedSide side, const QByteArray &number, ZrDecimal price, ZrDecimal quantity);
     /// Takes up to `most` off the order; what was taken, zero when it does not stand in the book.
     ZrDecimal withdraw(ZrFeedSide side, const QByteArray &number, ZrDecimal price, ZrDecimal most);
-    QVector<ZrFeedLevel> asks(int levels) const { return best(m_asks, levels); }
-    QVector<ZrFeedLevel> bids(int levels) const { return best(m_bids, levels); }
+    QVector<ZrFeedLevel> asks(int levels) const;
+    QVector<ZrFeedLevel> bids(int levels) const;
 
 private:
     struct BidOrder
