@@ -119,17 +119,18 @@ void ZrReferenceHost::registerService(const QVariant &msgType, Service service)
 
 void ZrReferenceHost::publish(const QVariant &msgType, const QList<QVariantMap> &records)
 {
-    ZrBus::instance().publish(ZrBusItem{ZrBusKind::Message, QString(), msgType, bodyOf(records)});
+    ZrBus::instance().publish(ZrBusItem{ZrBusKind::Message, QString(), QString(), msgType, bodyOf(records)});
 }
 
 void ZrReferenceHost::publishQuotation(const QVariant &msgType, const QList<QVariantMap> &records)
 {
-    ZrBus::instance().publish(ZrBusItem{ZrBusKind::Quotation, QString(), msgType, bodyOf(records)});
+    ZrBus::instance().publish(
+        ZrBusItem{ZrBusKind::Quotation, QString(), QString(), msgType, bodyOf(records)});
 }
 
 void ZrReferenceHost::publishEvent(const QVariant &eventType, const QVariant &body)
 {
-    ZrBus::instance().publish(ZrBusItem{ZrBusKind::Event, QString(), eventType, body});
+    ZrBus::instance().publish(ZrBusItem{ZrBusKind::Event, QString(), QString(), eventType, body});
 }
 
 ZrReferenceHost::Counters ZrReferenceHost::counters() const

@@ -1,9 +1,12 @@
 #include "zrbase/IMessageInterface.h"
 
 #include "ZrBus.h"
+#include "ZrBusGate.h"
 
 #include "zrevent/CEventMessageCommon.h"
 #include "zrmsg/CMessageCommon.h"
+
+#include <QtCore/QEvent>
 
 namespace {
 constexpr int receiverThreadBit = 2;
@@ -23,17 +26,20 @@ void changeSubscription(const QString &pid, const QVariant &msgType, int type, b
 
 class IMessageInterface::Private
 {
+public:
+    std::shared_ptr<ZrBusGate> gate;
 };
 
 IMessageInterface::IMessageInterface(QObject *parent)
     : QObject(parent)
-    , d(nullptr)
+    , d(new Private{std::make_shared<ZrBusGate>(this)})
 {
 }
 
 IMessageInterface::~IMessageInterface()
 {
-    ZrBus::instance().endpointDestroyed(this);
+    ZrBus::instance().endpointDestroyed(d->gate);
+    delete d;
 }
 
 void IMessageInterface::ProcMsg(QString pid, QVariant msgType, QVariant msg)
@@ -61,7 +67,7 @@ void IMessageInterface::Reg(QString pid, IMessageInterface *endpoint, IMessageIn
 {
     if (pid.isEmpty() || !endpoint)
         return;
-    ZrBus::instance().attach(pid, endpoint, (type & receiverThreadBit) != 0);
+    ZrBus::instance().attach(pid, endpoint->d->gate, (type & receiverThreadBit) != 0);
 }
 
 void IMessageInterface::UnReg(QString pid)
@@ -98,4 +104,12 @@ void IMessageInterface::setRelation(const QString &menuID, const QString &plugin
         ZrBus::instance().link(menuID, pluginInstanceID, linkageType, group);
     else if (action == actionUnlink)
         ZrBus::instance().unlink(menuID, pluginInstanceID, linkageType, group);
+}
+
+bool IMessageInterface::event(QEvent *event)
+{
+    // A receiver may run on a bus thread at this moment: the bus asks for the deletion again when it ends.
+    if (event->type() == QEvent::DeferredDelete && d->gate->postponeDelete())
+        return true;
+    return QObject::event(event);
 }

@@ -12,7 +12,8 @@
 
 class CEventMessageCommon;
 class CMessageCommon;
-class IMessageInterface;
+class ZrBusGate;
+struct ZrFaultSpec;
 
 /// A request as a service gets it.
 struct ZrBusRequest
@@ -46,11 +47,11 @@ class ZRBASE_EXPORT ZrBus
 public:
     static ZrBus &instance();
 
-    void attach(const QString &pid, IMessageInterface *endpoint, bool ownThread);
+    void attach(const QString &pid, const std::shared_ptr<ZrBusGate> &gate, bool ownThread);
     /// No call begins after this; one that runs is not waited for, since it may wait for the caller.
     void detach(const QString &pid);
-    /// Ends all registrations of an endpoint and waits for a call that runs on another thread.
-    void endpointDestroyed(IMessageInterface *endpoint);
+    /// Ends all registrations of an endpoint, and then waits for a call that runs on another thread.
+    void endpointDestroyed(const std::shared_ptr<ZrBusGate> &gate);
     void put(const QString &pid, std::unique_ptr<CMessageCommon> message);
     void putEvent(const QString &pid, std::unique_ptr<CEventMessageCommon> event);
     void subscribe(const QString &pid, const QVariant &type, bool isEvent);
@@ -63,13 +64,30 @@ public:
     /// A service for a message type; an empty one takes it away.
     void setService(const QVariant &msgType, ZrBusService service);
 
+    /// What goes wrong from now on with answers, publications and messages without a service. Events that one
+    /// participant sends to others never leave the client: they are spared.
+    void setFaults(const ZrFaultSpec &spec);
+
+    /// Records what is sent and what arrives until stopRecording. False with one sentence.
+    bool startRecording(const QString &path, QString *errorText);
+    bool stopRecording(QString *errorText);
+    /// Plays a recording to those who are on the bus now, through the faults in force; a speed of 0 is as
+    /// fast as can be. A replay that runs is stopped. One thread at a time.
+    bool startReplay(const QString &path, double speed, QString *errorText);
+    /// False when it took longer; true when none runs.
+    bool waitReplay(int timeoutMs);
+    qint64 replayedCount() const;
+    QString replayErrorText() const;
+
     /// True once nothing is under way; false when that took longer. Waits for ever when negative.
     bool waitIdle(int timeoutMs);
     ZrBusCounters &counters();
 
-    /// Ends all threads and forgets all registrations, services and items under way. Not to be
-    /// called from a receiver or a service. The next registration begins anew.
+    /// Ends all threads and recordings and forgets all registrations, services, faults and items under way.
+    /// Not to be called from a receiver or a service. The next registration begins anew.
     void reset();
+    /// reset(), called by the toolkit when the application object goes.
+    void applicationEnds();
 
 private:
     ZrBus();

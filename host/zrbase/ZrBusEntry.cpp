@@ -2,29 +2,30 @@
 
 #include "zrbase/IMessageInterface.h"
 
-ZrBusEntry::ZrBusEntry(const QString &pid, IMessageInterface *endpoint, std::shared_ptr<ZrBusLane> lane)
+ZrBusEntry::ZrBusEntry(const QString &pid, std::shared_ptr<ZrBusGate> gate, std::shared_ptr<ZrBusLane> lane)
     : pid(pid)
+    , gate(std::move(gate))
     , lane(std::move(lane))
-    , m_endpoint(endpoint)
 {
 }
 
 bool ZrBusEntry::deliver(const ZrBusItem &item)
 {
-    if (!beginCall())
+    IMessageInterface *endpoint = nullptr;
+    if (!beginCall(&endpoint))
         return false;
     switch (item.kind) {
     case ZrBusKind::Message:
-        m_endpoint->ProcMsg(item.source, item.type, item.body);
+        endpoint->ProcMsg(item.source, item.type, item.body);
         break;
     case ZrBusKind::Event:
-        m_endpoint->ProcEventMsg(item.source, item.type, item.body);
+        endpoint->ProcEventMsg(item.source, item.type, item.body);
         break;
     case ZrBusKind::Quotation:
-        m_endpoint->ProcQuotationMsg(item.source, item.type, item.body);
+        endpoint->ProcQuotationMsg(item.source, item.type, item.body);
         break;
     }
-    endCall();
+    gate->endCall();
     return true;
 }
 
@@ -34,42 +35,10 @@ void ZrBusEntry::close()
     m_open = false;
 }
 
-bool ZrBusEntry::isOpen() const
+bool ZrBusEntry::beginCall(IMessageInterface **endpoint)
 {
+    // close() waits for this lock: a call counts as begun once the gate knows of it.
     const std::lock_guard<std::mutex> guard(m_mutex);
-    return m_open;
-}
-
-bool ZrBusEntry::isBusyElsewhere() const
-{
-    const std::lock_guard<std::mutex> guard(m_mutex);
-    return m_inCall && m_caller != std::this_thread::get_id();
-}
-
-void ZrBusEntry::waitForCallElsewhere()
-{
-    std::unique_lock<std::mutex> lock(m_mutex);
-    if (m_caller == std::this_thread::get_id())
-        return;
-    m_idle.wait(lock, [this] { return !m_inCall; });
-}
-
-bool ZrBusEntry::beginCall()
-{
-    const std::lock_guard<std::mutex> guard(m_mutex);
-    if (!m_open)
-        return false;
-    m_inCall = true;
-    m_caller = std::this_thread::get_id();
-    return true;
-}
-
-void ZrBusEntry::endCall()
-{
-    {
-        const std::lock_guard<std::mutex> guard(m_mutex);
-        m_inCall = false;
-        m_caller = std::thread::id();
-    }
-    m_idle.notify_all();
+    *endpoint = m_open ? gate->beginCall() : nullptr;
+    return *endpoint;
 }

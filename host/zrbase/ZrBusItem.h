@@ -14,6 +14,7 @@ struct ZrBusItem
 {
     ZrBusKind kind = ZrBusKind::Message;
     QString source; // who sent it; for an answer who asked; empty for what the host published
+    QString asker;  // of an answer: who gets it besides the subscribers; empty for all else
     QVariant type;
     QVariant body;
 

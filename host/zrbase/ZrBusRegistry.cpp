@@ -17,11 +17,11 @@ ZrBusEntryPtr ZrBusRegistry::take(const QString &pid)
     return entry;
 }
 
-ZrBusEntries ZrBusRegistry::takeAll(const IMessageInterface *endpoint)
+ZrBusEntries ZrBusRegistry::takeAll(const ZrBusGate *gate)
 {
     ZrBusEntries taken;
     for (const ZrBusEntryPtr &entry : qAsConst(m_entries)) {
-        if (entry->endpoint() == endpoint)
+        if (entry->gate.get() == gate)
             taken.push_back(entry);
     }
     for (const ZrBusEntryPtr &entry : taken)
@@ -66,13 +66,20 @@ void ZrBusRegistry::unsubscribe(const QString &pid, const QString &typeKey, bool
 
 void ZrBusRegistry::appendSubscribers(const QString &typeKey, bool isEvent, ZrBusEntries *targets) const
 {
+    // One type's subscribers are distinct: only those that were there before can come twice.
+    const std::ptrdiff_t before = static_cast<std::ptrdiff_t>(targets->size());
     const QStringList pids = (isEvent ? m_eventSubs : m_msgSubs).value(typeKey);
-    for (const QString &pid : pids)
-        appendOnce(pid, targets);
+    for (const QString &pid : pids) {
+        const ZrBusEntryPtr entry = m_entries.value(pid);
+        if (std::find(targets->cbegin(), targets->cbegin() + before, entry) == targets->cbegin() + before)
+            targets->push_back(entry);
+    }
 }
 
 void ZrBusRegistry::link(const QString &menuId, const QString &pid, int linkageType, int group)
 {
+    if (!m_entries.contains(pid))
+        return;
     QList<Link> &links = m_links[pid];
     const auto sameType = [&](const Link &l) { return l.menuId == menuId && l.linkageType == linkageType; };
     links.erase(std::remove_if(links.begin(), links.end(), sameType), links.end());
@@ -95,8 +102,10 @@ void ZrBusRegistry::appendLinked(const QString &pid, int linkageType, ZrBusEntri
         if (link.linkageType != linkageType)
             continue;
         for (auto it = m_links.cbegin(); it != m_links.cend(); ++it) {
-            if (it.key() != pid && it->contains(link))
-                appendOnce(it.key(), targets);
+            const ZrBusEntryPtr entry = m_entries.value(it.key());
+            const bool isKnown = std::find(targets->cbegin(), targets->cend(), entry) != targets->cend();
+            if (it.key() != pid && it->contains(link) && !isKnown)
+                targets->push_back(entry);
         }
     }
 }
@@ -114,11 +123,4 @@ void ZrBusRegistry::forget(const QString &pid)
         }
     }
     m_links.remove(pid);
-}
-
-void ZrBusRegistry::appendOnce(const QString &pid, ZrBusEntries *targets) const
-{
-    const ZrBusEntryPtr entry = m_entries.value(pid);
-    if (entry && std::find(targets->cbegin(), targets->cend(), entry) == targets->cend())
-        targets->push_back(entry);
 }

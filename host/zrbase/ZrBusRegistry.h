@@ -21,16 +21,18 @@ public:
     /// Adds the entry and gives back the one whose place it took, if any.
     ZrBusEntryPtr add(const ZrBusEntryPtr &entry);
     ZrBusEntryPtr take(const QString &pid);
-    ZrBusEntries takeAll(const IMessageInterface *endpoint);
+    ZrBusEntries takeAll(const ZrBusGate *gate);
     ZrBusEntries takeEverything();
     ZrBusEntryPtr find(const QString &pid) const;
 
     /// Messages and quotations share their subscriptions; events have their own.
     void subscribe(const QString &pid, const QString &typeKey, bool isEvent);
     void unsubscribe(const QString &pid, const QString &typeKey, bool isEvent);
-    /// Appends the subscribers that `targets` doesn't hold yet.
+    /// Appends the subscribers; those that `targets` already holds don't come twice.
     void appendSubscribers(const QString &typeKey, bool isEvent, ZrBusEntries *targets) const;
 
+    /// Ignored for an ID that isn't registered; a second group of one menu and type takes the first one's
+    /// place.
     void link(const QString &menuId, const QString &pid, int linkageType, int group);
     void unlink(const QString &menuId, const QString &pid, int linkageType, int group);
     /// Appends the participants linked with `pid` by this type, without `pid` itself.
@@ -38,7 +40,6 @@ public:
 
 private:
     void forget(const QString &pid);
-    void appendOnce(const QString &pid, ZrBusEntries *targets) const;
     QHash<QString, QStringList> &subscriptions(bool isEvent) { return isEvent ? m_eventSubs : m_msgSubs; }
 
     struct Link

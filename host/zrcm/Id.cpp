@@ -1,5 +1,7 @@
 #include "zrcm/Id.h"
 
+#include "ZrKnownIds.h"
+
 #include <QtCore/QVariant>
 
 class Id::Private
@@ -32,7 +34,12 @@ Id::~Id()
 Id Id::fromSetting(const QVariant &setting)
 {
     Id id;
-    id.d->text = setting.toString();
+    // Only what is a text: a number in a setting that happens to print like an ID names nothing.
+    if (setting.userType() != QMetaType::QString && setting.userType() != QMetaType::QByteArray)
+        return id;
+    const QString text = setting.toString();
+    if (ZrKnownIds::contains(text))
+        id.d->text = text;
     return id;
 }
 

@@ -1,5 +1,6 @@
 #include "ZrObjectShelf.h"
 
+#include "zrcm/ZrKnownIds.h"
 #include "ZrCorePlugin.h"
 
 #include <QtCore/QDebug>
@@ -8,42 +9,56 @@
 #include <QtCore/QLibrary>
 #include <QtCore/QPluginLoader>
 
+ZrObjectShelf::ZrObjectShelf() = default;
+
+ZrObjectShelf::~ZrObjectShelf()
+{
+    clear();
+}
+
 void ZrObjectShelf::setMaker(const QString &id, Maker maker)
 {
-    if (maker && !id.isEmpty())
-        m_makers.insert(id, std::move(maker));
-    else
-        m_makers.remove(id);
+    if (m_makers.remove(id) > 0)
+        ZrKnownIds::remove(id);
+    if (!maker || id.isEmpty())
+        return;
+    m_makers.insert(id, std::move(maker));
+    ZrKnownIds::insert(id);
 }
 
 void ZrObjectShelf::setFolder(const QString &folder)
 {
+    for (auto it = m_files.cbegin(); it != m_files.cend(); ++it)
+        ZrKnownIds::remove(it.key());
     m_files.clear();
     if (folder.isEmpty())
         return;
     const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files, QDir::Name);
     for (const QFileInfo &file : files) {
-        if (!QLibrary::isLibrary(file.fileName()))
-            continue;
-        const QJsonObject meta = QPluginLoader(file.absoluteFilePath()).metaData();
-        if (meta.value(QLatin1String("IID")).toString() != QLatin1String(ZrCorePlugin_iid))
-            continue;
-        const QJsonObject own = meta.value(QLatin1String("MetaData")).toObject();
-        const QString id = own.value(QLatin1String("pluginId")).toString();
-        if (!id.isEmpty() && !m_files.contains(id))
-            m_files.insert(id, file.absoluteFilePath());
+        if (QLibrary::isLibrary(file.fileName()))
+            addFile(file.absoluteFilePath());
     }
 }
 
 void ZrObjectShelf::clear()
 {
-    m_makers.clear();
-    m_files.clear();
+    const QStringList madeHere = m_makers.keys();
+    for (const QString &id : madeHere)
+        setMaker(id, Maker());
+    setFolder(QString());
 }
 
-bool ZrObjectShelf::knows(const QString &id) const
+void ZrObjectShelf::addFile(const QString &path)
 {
-    return m_makers.contains(id) || m_files.contains(id);
+    const QJsonObject meta = QPluginLoader(path).metaData();
+    if (meta.value(QLatin1String("IID")).toString() != QLatin1String(ZrCorePlugin_iid))
+        return;
+    const QJsonObject own = meta.value(QLatin1String("MetaData")).toObject();
+    const QString id = own.value(QLatin1String("pluginId")).toString();
+    if (id.isEmpty() || m_files.contains(id))
+        return;
+    m_files.insert(id, path);
+    ZrKnownIds::insert(id);
 }
 
 QStringList ZrObjectShelf::ids() const

@@ -20,16 +20,21 @@ class ZrObjectShelf
 public:
     using Maker = std::function<QObject *()>;
 
+    ZrObjectShelf();
+    ~ZrObjectShelf();
+
     /// An empty maker takes the ID away.
     void setMaker(const QString &id, Maker maker);
     /// Reads which plugins lie in the folder; empty for none.
     void setFolder(const QString &folder);
     void clear();
-    bool knows(const QString &id) const;
     QStringList ids() const;
     QObject *make(const QString &id) const;
 
 private:
+    Q_DISABLE_COPY(ZrObjectShelf)
+    void addFile(const QString &path);
+
     QHash<QString, Maker> m_makers;
     QHash<QString, QString> m_files; // ID to the plugin file's path
 };

@@ -1,11 +1,11 @@
 #include "zrplugin/PluginManager.h"
 
-#include <QtCore/QHash>
+#include "ZrPluginNumbers.h"
 
 class PluginManager::Private
 {
 public:
-    QHash<QString, int> made;
+    ZrPluginNumbers &numbers = ZrPluginNumbers::instance();
 };
 
 PluginManager::PluginManager()
@@ -20,11 +20,11 @@ PluginManager::~PluginManager()
 
 PluginManager *PluginManager::instance()
 {
-    static PluginManager manager;
-    return &manager;
+    static PluginManager *const manager = new PluginManager; // never destroyed: callers don't test it
+    return manager;
 }
 
 int PluginManager::getCurrentInstanceIDIndexByPluginID(const QString &pluginID)
 {
-    return d->made[pluginID]++;
+    return d->numbers.next(pluginID);
 }

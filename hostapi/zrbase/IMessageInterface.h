@@ -22,7 +22,12 @@ enum RelationColor_t {
 ///
 /// `pid` is the participant's ID: for a plugin its instance ID. `msgType` is a message or event
 /// type, `type` 1 subscribes and 2 unsubscribes.
-/// Ownership: Put and PutEvent take what they are given; the bus never owns an endpoint.
+/// `pid` in the receivers is who sent it: for an answer the ID that asked, empty for what the back end sent
+/// unasked.
+/// Ownership: Put and PutEvent take what they are given; the bus never owns an endpoint. Its destruction ends
+/// its
+///            registrations. deleteLater() is put off while a receiver runs on another thread; deleting an
+///            endpoint at once is only for when no call can be running.
 /// Threads:   Put and PutEvent from any thread; the receivers run on a thread that the bus chooses
 ///            by ThreadType, in order for one endpoint; all else on one thread at a time.
 /// Errors:    messages to nobody are dropped.
@@ -52,8 +57,8 @@ public:
     /// Registers the endpoint; the receivers are called from then on. A null endpoint or an empty
     /// ID is ignored; a second registration under one ID takes the first one's place.
     void Reg(QString pid, IMessageInterface *endpoint, IMessageInterface::ThreadType type);
-    /// Ends the registration: no receiver is called afterwards. A call that is running goes on.
-    /// An unknown ID is ignored.
+    /// Ends the registration: no call of a receiver begins afterwards. One that is running goes on and isn't
+    /// waited for, since it may itself be waiting for the caller. An unknown ID is ignored.
     void UnReg(QString pid);
     /// Sends a message and returns at once; an answer comes through ProcMsg. Null is ignored.
     void Put(QString pid, CMessageCommon *msg);
@@ -65,6 +70,9 @@ public:
     /// linkage data among the plugins of one group and type.
     void setRelation(const QString &menuID, const QString &pluginInstanceID, int linkageType,
                      RelationColor_t group, int action);
+
+protected:
+    bool event(QEvent *event) override;
 
 private:
     Q_DISABLE_COPY(IMessageInterface)
