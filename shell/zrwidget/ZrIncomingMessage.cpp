@@ -9,15 +9,6 @@
 #include "zrmsg/CUnPackMessageCommon.h"
 
 #include <QtCore/QDebug>
-#include <QtCore/QLoggingCategory>
-
-namespace {
-/// Asked before a line is put together: the lines of a request cost as much as its way over the bus.
-bool isDebugLogged()
-{
-    return QLoggingCategory::defaultCategory()->isDebugEnabled();
-}
-} // namespace
 
 ZrIncomingMessage::ZrIncomingMessage(ZrPresenterClassPrivate *d, const QString &pid, const QVariant &msgType,
                                      const QVariant &msg)
@@ -43,7 +34,7 @@ bool ZrIncomingMessage::isRejection() const
 // Execution reports come by the thousand: they would bury all other lines.
 bool ZrIncomingMessage::isLogged() const
 {
-    return m_typeText != Vexlor_MsgType::executionReport && isDebugLogged();
+    return m_typeText != Vexlor_MsgType::executionReport && ZrPresenterClassPrivate::isDebugLogged();
 }
 
 void ZrIncomingMessage::process()
@@ -151,12 +142,12 @@ bool ZrIncomingMessage::answerLateAsync()
         if (m_isLast)
             d->timedOutAsyncRequests.erase(request);
     }
-    if (isDebugLogged()) {
+    if (ZrPresenterClassPrivate::isDebugLogged()) {
         qDebug() << "5555555  Aysnc time out Response" << m_typeText << d->pluginPid
                  << " clientMsgID = " << m_clientMsgID;
     }
     callBack(&type);
-    if (isDebugLogged())
+    if (ZrPresenterClassPrivate::isDebugLogged())
         qDebug() << "5555555  Aysnc time out Response end" << m_typeText << type << d->pluginPid;
     return true;
 }

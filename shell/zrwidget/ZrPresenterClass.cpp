@@ -150,7 +150,8 @@ int ZrPresenterClass::sendRequest_Sync(CMessageCommon *msg, QVariant &response)
     if (const int refusal = d->refusal(call, msg))
         return refusal;
     ZrRequestMessage request(*msg);
-    qDebug() << "ZrPresenterClass::sendRequest_Sync" << objectName() << request.msgType;
+    if (ZrPresenterClassPrivate::isDebugLogged())
+        qDebug() << "ZrPresenterClass::sendRequest_Sync" << objectName() << request.msgType;
     if (!d->prepare(&request, Vexlor_Values::RequestType::sync, msg))
         return ZrRequestNoRecords;
     return d->waitInLoop(request, msg, &response);

@@ -12,6 +12,7 @@
 #include "zrutils/ZrThread.h"
 
 #include <QtCore/QDebug>
+#include <QtCore/QLoggingCategory>
 #include <QtCore/QTimer>
 #include <QtCore/QVector>
 
@@ -64,6 +65,11 @@ void ZrPresenterClassPrivate::Initial()
 }
 
 // --- outgoing --------------------------------------------------------------------------------------------
+
+bool ZrPresenterClassPrivate::isDebugLogged()
+{
+    return QLoggingCategory::defaultCategory()->isDebugEnabled();
+}
 
 bool ZrPresenterClassPrivate::isDestroying() const
 {

@@ -69,6 +69,8 @@ public:
     /// First code on the presenter's own thread.
     void Initial();
 
+    /// Asked before a line is put together: the lines of a request cost as much as its way over the bus.
+    static bool isDebugLogged();
     bool isDestroying() const;
     /// Why a request can't be sent, or 0.
     int refusal(const ZrPresenterCall &call, const CMessageCommon *msg) const;
@@ -84,6 +86,8 @@ public:
     int waitInLoop(const ZrRequestMessage &request, CMessageCommon *msg, QVariant *response);
     int waitBlocked(const ZrRequestMessage &request, CMessageCommon *msg, QVariant *response,
                     unsigned long timeoutMs);
+    /// How long a blocked request waits that asks for this time; 0 asks for the presenter's own.
+    unsigned long blockTimeMs(unsigned long timeoutMs) const;
     /// One tick of the clock.
     void ageRequests();
 
@@ -103,7 +107,6 @@ signals:
 private:
     bool openLoop(const ZrEventLoop::Pointer &loop, const QString &clientMsgID);
     int closeLoop(ZrEventLoop *loop, const QString &clientMsgID);
-    unsigned long blockTimeMs(unsigned long timeoutMs) const;
     QVariant reportBlockTimeout(const ZrRequestMessage &request, ZrWaitCondition *waiter);
     void expire(const QString &clientMsgID);
     void expireSync(const ZrEventLoop &loop, const QString &clientMsgID);

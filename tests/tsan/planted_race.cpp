@@ -1,5 +1,5 @@
-// A program with one race, between two of the client's threads, beside the things a correct program does: it shows
-// that the check sees races at all. It must be reported; no test may wait for it to pass.
+// A program with one race, between two of the client's threads, beside the things a correct program does: it
+// shows that the check sees races at all. It must be reported; no test may wait for it to pass.
 
 #include "zrutils/ZrThread.h"
 
