@@ -29,8 +29,15 @@ QTimeZone ZrFeedSimulator::zone() const
 
 void ZrFeedSimulator::openMarkets()
 {
+    const qint64 beginNs = m_timeNs;
+    for (int i = 0; i < m_options.ordersAtStart && !m_markets.empty(); ++i)
+        enterOrder(roll(quint32(m_markets.size())));
     for (size_t i = 0; i < m_markets.size(); ++i)
         showBook(i);
+    // They all stand there at the bell, however long their messages take.
+    m_timeNs = beginNs;
+    for (ZrFeedEvent &event : m_ready)
+        event.timeNs = beginNs;
 }
 
 bool ZrFeedSimulator::next(ZrFeedEvent *event)

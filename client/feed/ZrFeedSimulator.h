@@ -32,6 +32,7 @@ public:
     {
         quint32 seed = 1;
         int rate = 1000;
+        int ordersAtStart = 0;     // orders that stand in the books when the day begins
         qint64 events = -1;        // negative: endless
         int openOrdersKept = 6000; // beyond it the oldest is withdrawn
     };
