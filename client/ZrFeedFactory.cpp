@@ -20,7 +20,8 @@ constexpr int OrdersAtStart = 4000;
 ZrDecimal decimalOf(const QVariant &value, ZrDecimal otherwise)
 {
     ZrDecimal result;
-    return ZrDecimal::parse(value.toString().toLatin1(), &result) && result > ZrDecimal() ? result : otherwise;
+    return ZrDecimal::parse(value.toString().toLatin1(), &result) && result > ZrDecimal() ? result
+                                                                                          : otherwise;
 }
 
 // Some securities of each market, spread over the list so that they differ in price.
@@ -35,7 +36,8 @@ std::vector<ZrSimSecurity> securities()
         const QVariantMap details = data->GetSecurityDetailsBySymbol(symbol);
         ZrSimSecurity security;
         security.symbol = symbol.toUtf8();
-        security.previousClose = decimalOf(details.value(ZrClientFields::previousClose), ZrDecimal::fromInt(10));
+        security.previousClose =
+            decimalOf(details.value(ZrClientFields::previousClose), ZrDecimal::fromInt(10));
         security.tick = decimalOf(details.value(QStringLiteral("PriceTick")), security.tick);
         security.lot = decimalOf(details.value(QStringLiteral("LotSize")), security.lot);
         result.push_back(security);
@@ -56,8 +58,8 @@ QString findDescription(const QString &feed, const QStringList &folders)
 }
 } // namespace
 
-std::unique_ptr<ZrFeedSource> ZrFeedFactory::make(const ZrWorkstationOptions &options, const QStringList &recordings,
-                                                  QString *error)
+std::unique_ptr<ZrFeedSource> ZrFeedFactory::make(const ZrWorkstationOptions &options,
+                                                  const QStringList &recordings, QString *error)
 {
     if (options.feed.isEmpty() || options.feed == QLatin1String("simulator")) {
         ZrFeedSimulator::Options simulator;
@@ -69,7 +71,8 @@ std::unique_ptr<ZrFeedSource> ZrFeedFactory::make(const ZrWorkstationOptions &op
     const QString path = findDescription(options.feed, recordings);
     ZrFeedDescription description;
     if (path.isEmpty())
-        *error = QStringLiteral("--feed: there is no recording and no file \"%1\".").arg(options.feed.left(300));
+        *error =
+            QStringLiteral("--feed: there is no recording and no file \"%1\".").arg(options.feed.left(300));
     else if (ZrFeedDescriptionReader::read(path, &description, error)) {
         auto source = std::make_unique<ZrRecordingSource>(description);
         *error = source->open();
@@ -90,7 +93,8 @@ QList<QVariantMap> ZrFeedFactory::accounts()
         QVariantMap account = {{User::tradingAccount, number},
                                {Vexlor_Fields::Security::systemNodeId,
                                 data->GetSysNodeIDByAccount({{User::tradingAccount, number}})}};
-        for (const QString &field : {User::assetAccount, ZrClientFields::productAccount, ZrClientFields::investAccount})
+        for (const QString &field :
+             {User::assetAccount, ZrClientFields::productAccount, ZrClientFields::investAccount})
             account.insert(field, details.value(field));
         result.append(account);
     }

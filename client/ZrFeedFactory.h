@@ -17,8 +17,8 @@ class ZrFeedFactory
 {
 public:
     /// `recordings` are the folders in which shipped recordings lie.
-    static std::unique_ptr<ZrFeedSource> make(const ZrWorkstationOptions &options, const QStringList &recordings,
-                                              QString *error);
+    static std::unique_ptr<ZrFeedSource> make(const ZrWorkstationOptions &options,
+                                              const QStringList &recordings, QString *error);
     /// The accounts that orders of a feed may have, as records of the fields that the blotter shows.
     static QList<QVariantMap> accounts();
 };

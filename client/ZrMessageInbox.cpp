@@ -10,7 +10,8 @@ ZrMessageInbox::ZrMessageInbox(QObject *parent)
 
 void ZrMessageInbox::post()
 {
-    QMetaObject::invokeMethod(this, [this] { drain(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { drain(); }, Qt::QueuedConnection);
 }
 
 void ZrMessageInbox::put(const ZrInboxMessage &message)

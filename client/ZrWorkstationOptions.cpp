@@ -12,20 +12,27 @@ QString text(const char *latin)
 
 void addFlags(QCommandLineParser *parser)
 {
-    parser->setApplicationDescription(text("Trading workstation: a live order blotter fed from a recording or a simulator."));
+    parser->setApplicationDescription(
+        text("Trading workstation: a live order blotter fed from a recording or a simulator."));
     parser->addOption({{text("h"), text("help")}, text("Shows this.")});
     parser->addOption({text("headless"), text("Runs without a display.")});
     parser->addOption({text("seconds"), text("Ends after so many seconds."), text("N")});
-    parser->addOption({text("shots"), text("Writes pictures of the window and its docks at the end."), text("DIR")});
+    parser->addOption(
+        {text("shots"), text("Writes pictures of the window and its docks at the end."), text("DIR")});
     parser->addOption({text("report"), text("Writes a run report (JSON) at the end."), text("FILE")});
-    parser->addOption({text("feed"), text("\"simulator\", the name of a shipped recording, or a feed description."), text("NAME|FILE")});
+    parser->addOption({text("feed"),
+                       text("\"simulator\", the name of a shipped recording, or a feed description."),
+                       text("NAME|FILE")});
     parser->addOption({text("speed"), text("Plays so many times as fast; 0 as fast as can be."), text("X")});
     parser->addOption({text("rate"), text("Messages a second of the simulator."), text("N")});
     parser->addOption({text("seed"), text("Seed of the simulator."), text("N")});
     parser->addOption({text("rows"), text("Most rows the blotter keeps."), text("N")});
-    parser->addOption({text("record"), text("Writes what the feed does as a recording with this description."), text("FILE")});
+    parser->addOption({text("record"),
+                       text("Writes what the feed does as a recording with this description."),
+                       text("FILE")});
     parser->addOption({text("skin"), text("Skin to begin with."), text("ID")});
-    parser->addOption({text("faults"), text("Faults of the bus, such as drop=0.01,delay=5..20,seed=7."), text("SPEC")});
+    parser->addOption(
+        {text("faults"), text("Faults of the bus, such as drop=0.01,delay=5..20,seed=7."), text("SPEC")});
     parser->addOption({text("lang"), text("zh_CN or en; that of the locale otherwise."), text("zh_CN|en")});
 }
 
@@ -92,7 +99,8 @@ bool ZrWorkstationOptions::parse(const QStringList &arguments, ZrWorkstationOpti
     if (!parser.parse(arguments))
         *error = parser.errorText();
     else if (!parser.positionalArguments().isEmpty())
-        *error = QStringLiteral("\"%1\" is no flag; see --help.").arg(parser.positionalArguments().constFirst().left(100));
+        *error = QStringLiteral("\"%1\" is no flag; see --help.")
+                     .arg(parser.positionalArguments().constFirst().left(100));
     Values values(parser, error);
     options->help = parser.isSet(text("help"));
     options->headless = parser.isSet(text("headless"));
