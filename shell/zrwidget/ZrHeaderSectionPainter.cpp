@@ -54,23 +54,26 @@ void ZrHeaderSectionPainter::paint()
 
 void ZrHeaderSectionPainter::drawFrame()
 {
-    const QPointF oldOrigin = m_painter->brushOrigin();
+    // The common style sets back the clip that it found, which takes a painter without one to an empty clip,
+    // and nothing after would show. Restoring also sets the brush origin back.
+    m_painter->save();
     // A pattern of the model's starts at the section, not at the window.
-    if (m_head.model() &&
-        m_head.model()->headerData(m_section, m_head.orientation(), Qt::BackgroundRole).isValid())
+    const QVariant background = value(Qt::BackgroundRole);
+    if (background.canConvert<QBrush>())
         m_painter->setBrushOrigin(m_option.rect.topLeft());
+    const QStyleOptionHeader bottom = frameOption(m_layout.bottomBand, true);
     if (m_grouped) {
         // Each section of the run paints the whole band, but only where it stands itself: the band must not
-        // cover the pictures of the sections that were painted before.
+        // cover the pictures of the sections that were painted before. CE_Header would set a clip of its own;
+        // a head without text and mark is its section part, which doesn't.
         m_painter->save();
         m_painter->setClipRect(m_option.rect, Qt::IntersectClip);
         const QStyleOptionHeader top = frameOption(m_layout.topBand, false);
-        m_head.style()->drawControl(QStyle::CE_Header, &top, m_painter, &m_head);
+        m_head.style()->drawControl(QStyle::CE_HeaderSection, &top, m_painter, &m_head);
         m_painter->restore();
     }
-    const QStyleOptionHeader bottom = frameOption(m_layout.bottomBand, true);
     m_head.style()->drawControl(QStyle::CE_Header, &bottom, m_painter, &m_head);
-    m_painter->setBrushOrigin(oldOrigin);
+    m_painter->restore();
 }
 
 QStyleOptionHeader ZrHeaderSectionPainter::frameOption(const QRect &rect, bool withIndicator) const
@@ -87,6 +90,12 @@ QStyleOptionHeader ZrHeaderSectionPainter::frameOption(const QRect &rect, bool w
     return option;
 }
 
+QVariant ZrHeaderSectionPainter::value(int role) const
+{
+    const QAbstractItemModel *const model = m_head.model();
+    return model ? model->headerData(m_section, m_head.orientation(), role) : QVariant();
+}
+
 bool ZrHeaderSectionPainter::showsIndicator() const
 {
     return m_head.isSortIndicatorShown() && m_head.sortIndicatorSection() == m_section;
@@ -94,11 +103,8 @@ bool ZrHeaderSectionPainter::showsIndicator() const
 
 void ZrHeaderSectionPainter::drawTexts()
 {
-    if (!m_head.model())
-        return;
     if (m_grouped) {
-        const QString name =
-            m_head.model()->headerData(m_section, m_head.orientation(), ZrGroupNameRole).toString();
+        const QString name = value(ZrGroupNameRole).toString();
         m_painter->save();
         m_painter->setClipRect(m_option.rect, Qt::IntersectClip);
         m_head.style()->drawItemText(m_painter, m_layout.groupName, Qt::AlignCenter, m_option.palette, true,
@@ -107,7 +113,7 @@ void ZrHeaderSectionPainter::drawTexts()
     }
     QStyleOptionHeader label = m_option;
     label.rect = m_layout.label;
-    label.text = m_head.model()->headerData(m_section, m_head.orientation(), Qt::DisplayRole).toString();
+    label.text = value(Qt::DisplayRole).toString();
     if (m_head.textElideMode() != Qt::ElideNone) {
         label.text = label.fontMetrics.elidedText(label.text, m_head.textElideMode(),
                                                   m_layout.label.width() - labelMarginsPx());

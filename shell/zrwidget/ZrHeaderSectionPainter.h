@@ -39,6 +39,7 @@ private:
     void drawTip();
 
     QStyleOptionHeader frameOption(const QRect &rect, bool withIndicator) const;
+    QVariant value(int role) const; // of the section, from the model
     bool showsIndicator() const;
     int labelMarginsPx() const;
     bool continuesGroup() const;

@@ -197,6 +197,7 @@ bool ZrHeaderView::viewportEvent(QEvent *event)
     case QEvent::HoverLeave:
     case QEvent::Leave:
         m_hovered = -1;
+        hoverTo(-1);
         break;
     default: // what else reaches a viewport says nothing about the pointer's section
         break;

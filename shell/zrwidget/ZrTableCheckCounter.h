@@ -28,6 +28,8 @@ public:
     void rowInserted(int row, int rowCount);
     void rowRemoved(int row, int rowCount);
     void allRowsNew(int rowCount);
+    /// Rows changed places: new ones may be anywhere.
+    void rowsMoved(int rowCount);
     /// Makes the missing cells: reading a row's check state makes its cell.
     void stamp(RecordDataList &rows);
 

@@ -27,6 +27,8 @@ public:
     bool isShown(int row) const;
     int rowAt(int position) const;
     int positionOf(int row) const;
+    /// Where the row is shown or would be.
+    int positionAt(int row) const { return shownBefore(m_first + row); }
     void setShown(int row, bool shown);
     void appendRow(bool shown);
     void dropFront(int count);

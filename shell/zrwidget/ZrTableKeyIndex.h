@@ -41,9 +41,11 @@ public:
     QString invariantError(const RecordDataList &rows, const QList<int> &keyColumns) const;
 
 private:
+    void dropOld();
     void shift(const RecordDataList &rows, const QList<int> &keyColumns, int first, int last, int step);
 
     QHash<QString, qint64> m_numbers;
-    qint64 m_base = 0; // number of row 0
+    qint64 m_base = 0;    // number of row 0
+    qint64 m_highest = 0; // no number was ever above it
     bool m_exact = true;
 };

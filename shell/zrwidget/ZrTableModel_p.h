@@ -11,8 +11,12 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QObject>
+#include <QtCore/QVector>
+
+#include <memory>
 
 class QTableView;
+class ZrTableRows;
 
 /// What a table model holds, for the model itself and its family: view, head and delegate.
 ///
@@ -26,6 +30,7 @@ class ZRWIDGET_PRIVATE_EXPORT ZrTableModelPrivate : public QObject
     Q_OBJECT
 public:
     explicit ZrTableModelPrivate(ZrTableModel *facade);
+    ~ZrTableModelPrivate() override;
 
     // --- Shared fields ---
     bool columnSectionsApplied = false;         // the stored widths have been given to the head
@@ -88,28 +93,57 @@ public:
     RecordData sumRecordNow() const;
 
     // --- Verbs for the model's own parts ---
+    ZrTableCheckCounter checkCounter;
+    mutable ZrTableSums sums;
+    ZrTableRows &rows() const { return *m_rows; }
     QString makeKey(const RecordData &record) const { return ZrTableKeyIndex::makeKey(record, keyColumns); }
     QString modelTr(const char *text) const;
     QTableView *parentView() const;
+    RecordDataList shownRecords() const;
+    RecordData hostSums() const;
+    static RecordData sumTexts(RecordData totals);
+    /// As updateHeadCheckState(), but only when the stored state is wrong.
+    void correctHeadCheckState();
+    /// What may change the display list is followed by a refresh that keeps the current row.
+    void applyFilter();
+
+    // Telling the views.
     /// Key of the parent view's current row; empty without one.
     QString currentRowKey() const;
-    void makeCurrent(const QString &key);
     void resetViews();
     /// A reset that keeps the row with the key current.
     void resetViewsKeeping(const QString &key);
     void beginInsert(int first, int last);
     void endInsert();
+    /// The row -1 stands for a row that wasn't shown.
     void beginRemove(int first, int last);
     void endRemove();
-    /// A removal that has already happened; row -1 stands for a row that wasn't shown.
-    void announceRemoval(int row);
-    void emitCellChanged(const QModelIndex &index, const QVector<int> &roles);
-    /// Tells the views to count again when the announced rows or columns aren't those there are.
+    void emitCellChanged(const QModelIndex &from, const QModelIndex &to, const QVector<int> &roles = {});
+    /// Lets the views count again when the rows or columns they were told of aren't those there are.
     void settleViews();
     void startDelayTimer();
+    bool endDelay(int timerId);
+
+    // Persistent indexes; see ZrTableSignalScope.
+    QModelIndexList persistentIndexes() const;
+    bool isParking() const { return m_isParking; }
+    bool isParkedRow(int row) const { return isParking() && row >= parkingFloor; }
+    void parkIndexes(const QModelIndexList &indexes);
+    void unparkIndexes(const QModelIndexList &before, const QModelIndexList &now);
+
+    /// Empty when rows, keys, display list and counters agree, else what is wrong.
+    QString invariantError() const;
 
 private:
-    int m_announcedRows = 0;
-    int m_announcedColumns = 0;
-    int m_pendingRows = 0; // rows that the running announcement adds or takes
+    static constexpr int parkingFloor = 1 << 29; // twice as many rows as memory holds
+
+    void dropLostIndexes();
+    QModelIndexList parkedPlaces(const QModelIndexList &indexes) const;
+
+    std::unique_ptr<ZrTableRows> m_rows;
+    int m_toldRows = 0;
+    int m_toldColumns = 0;
+    bool m_isParking = false;
+    int m_parkedShift = 0;          // rows that the signals since then moved everything by
+    mutable RecordData m_sumRecord; // what the totals of `sums` read like
 };

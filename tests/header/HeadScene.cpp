@@ -23,7 +23,8 @@ const QColor SkinFolder::help(120, 60, 30);
 
 HeadModel::HeadModel(QObject *parent)
     : QAbstractTableModel(parent)
-{}
+{
+}
 
 void HeadModel::setColumns(const QList<HeadColumn> &columns)
 {
@@ -86,7 +87,8 @@ QUrl FakeHost::headPicture(Picture picture) const
 
 NotingStyle::NotingStyle()
     : QProxyStyle(QStyleFactory::create(QStringLiteral("windows")))
-{}
+{
+}
 
 void NotingStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                               const QWidget *widget) const
@@ -189,7 +191,8 @@ QList<HeadColumn> HeadScene::groups(const QString &letters)
     QList<HeadColumn> columns;
     for (int i = 0; i < letters.size(); ++i) {
         const QString group = letters.at(i) == '.' ? QString() : QString(letters.at(i));
-        columns.append({i, QStringLiteral("c%1").arg(i), group, group.isEmpty() ? QString() : "Group " + group});
+        columns.append(
+            {i, QStringLiteral("c%1").arg(i), group, group.isEmpty() ? QString() : "Group " + group});
     }
     return columns;
 }
@@ -238,8 +241,8 @@ void HeadScene::click(const QPoint &point)
 void HeadScene::moveHeld(const QPoint &point)
 {
     // QTest's own move carries no pressed button.
-    QMouseEvent move(QEvent::MouseMove, point, head->viewport()->mapToGlobal(point), Qt::NoButton, Qt::LeftButton,
-                     Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, point, head->viewport()->mapToGlobal(point), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(head->viewport(), &move);
 }
 

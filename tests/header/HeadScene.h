@@ -19,8 +19,8 @@ struct HeadColumn
 {
     int number = 0; // "Head_ColumnIndex"; see HeadModel::withoutNumber
     QString text;
-    QString group;
-    QString groupName;
+    QString group = QString();
+    QString groupName = QString();
 };
 
 /// Answers a head the roles that the grids' models answer.

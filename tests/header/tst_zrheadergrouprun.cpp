@@ -28,10 +28,13 @@ void tst_ZrHeaderGroupRun::theRunAndItsBand_data()
     QTest::newRow("same group further on is another run") << "AA.AA." << 0 << 0 << 1 << QRect(0, 0, 200, 20);
     QTest::newRow("run to the end") << ".BBB" << 1 << 1 << 3 << QRect(100, 0, 300, 20);
     // Required: the last section is never compared.
-    QTest::newRow("run before a plain last section takes it in") << ".BB." << 1 << 1 << 3 << QRect(100, 0, 300, 20);
-    QTest::newRow("run before a last section of another group") << "ABBC" << 2 << 1 << 3 << QRect(100, 0, 300, 20);
+    QTest::newRow("run before a plain last section takes it in")
+        << ".BB." << 1 << 1 << 3 << QRect(100, 0, 300, 20);
+    QTest::newRow("run before a last section of another group")
+        << "ABBC" << 2 << 1 << 3 << QRect(100, 0, 300, 20);
     QTest::newRow("one section before the last") << "AB." << 1 << 1 << 2 << QRect(100, 0, 200, 20);
-    QTest::newRow("two before the last end where they end") << "AB.." << 1 << 1 << 1 << QRect(100, 0, 100, 20);
+    QTest::newRow("two before the last end where they end")
+        << "AB.." << 1 << 1 << 1 << QRect(100, 0, 100, 20);
     QTest::newRow("the last itself walks left only") << "ABBB" << 3 << 1 << 3 << QRect(100, 0, 300, 20);
     QTest::newRow("the last alone") << "AAB" << 2 << 2 << 2 << QRect(200, 0, 100, 20);
 }

@@ -50,17 +50,39 @@ void tst_ZrSkinPixmap::pathsThatLeaveTheSkinAreRefused_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("plain") << "dark" << "img/a.png" << "ZRSkin:dark/img/a.png";
-    QTest::newRow("leading slash stays below") << "dark" << "/img/a.png" << "ZRSkin:dark//img/a.png";
-    QTest::newRow("two dots in a name") << "dark" << "img/a..png" << "ZRSkin:dark/img/a..png";
-    QTest::newRow("percent sign") << "dark" << "img/%1.png" << "ZRSkin:dark/img/%1.png";
-    QTest::newRow("climbs") << "dark" << "../light/a.png" << "";
-    QTest::newRow("climbs late") << "dark" << "img/../../a.png" << "";
-    QTest::newRow("climbs by backslash") << "dark" << "img\\..\\..\\a.png" << "";
-    QTest::newRow("no path") << "dark" << "" << "";
-    QTest::newRow("no skin") << "" << "img/a.png" << "";
-    QTest::newRow("skin is a path") << "dark/../.." << "img/a.png" << "";
-    QTest::newRow("skin climbs") << ".." << "img/a.png" << "";
+    QTest::newRow("plain") << "dark"
+                           << "img/a.png"
+                           << "ZRSkin:dark/img/a.png";
+    QTest::newRow("leading slash stays below") << "dark"
+                                               << "/img/a.png"
+                                               << "ZRSkin:dark//img/a.png";
+    QTest::newRow("two dots in a name") << "dark"
+                                        << "img/a..png"
+                                        << "ZRSkin:dark/img/a..png";
+    QTest::newRow("percent sign") << "dark"
+                                  << "img/%1.png"
+                                  << "ZRSkin:dark/img/%1.png";
+    QTest::newRow("climbs") << "dark"
+                            << "../light/a.png"
+                            << "";
+    QTest::newRow("climbs late") << "dark"
+                                 << "img/../../a.png"
+                                 << "";
+    QTest::newRow("climbs by backslash") << "dark"
+                                         << "img\\..\\..\\a.png"
+                                         << "";
+    QTest::newRow("no path") << "dark"
+                             << ""
+                             << "";
+    QTest::newRow("no skin") << ""
+                             << "img/a.png"
+                             << "";
+    QTest::newRow("skin is a path") << "dark/../.."
+                                    << "img/a.png"
+                                    << "";
+    QTest::newRow("skin climbs") << ".."
+                                 << "img/a.png"
+                                 << "";
 }
 
 void tst_ZrSkinPixmap::pathsThatLeaveTheSkinAreRefused()
@@ -95,8 +117,9 @@ void tst_ZrSkinPixmap::aDrawingIsRenderedAtTheWantedSize()
     // Two halves with a sharp edge: scaled up from 2 pixels it would be blurred.
     QFile file(m_skin->folder("test") + "/img/edge.svg");
     QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("<svg xmlns='http://www.w3.org/2000/svg' width='2' height='2'>"
-               "<rect width='1' height='2' fill='#ff0000'/><rect x='1' width='1' height='2' fill='#0000ff'/></svg>");
+    file.write(
+        "<svg xmlns='http://www.w3.org/2000/svg' width='2' height='2'>"
+        "<rect width='1' height='2' fill='#ff0000'/><rect x='1' width='1' height='2' fill='#0000ff'/></svg>");
     file.close();
     const QImage picture = ZrSkinPixmap::get("img/edge.svg", {32, 32}, 1.0).toImage();
     QCOMPARE(picture.size(), QSize(32, 32));
