@@ -18,8 +18,9 @@ ZrTableView::ZrTableView(QWidget *parent)
     : ZrViewBase(parent)
     , d(new ZrTableViewPrivate(this))
 {
-    // So that a filter state can travel in queued signals.
+    // So that a filter state and a sort can travel in queued signals.
     qRegisterMetaType<ViewFilterList>("QMap<int, QList<QList<QVariantMap>>>");
+    qRegisterMetaType<Qt::SortOrder>("Qt::SortOrder");
     d->createParts(parent);
     ZrCore::instance()->addStyle2View(this,
                                       Constants::SKIN_SYSTEM + QStringLiteral("zrwidget/zrtableview.css"));

@@ -3,8 +3,8 @@
 
 namespace {
 
-constexpr int left = 1;
-constexpr int right = 2;
+constexpr int leftSide = 1;
+constexpr int rightSide = 2;
 
 QTableView *sideOf(const ZrTableView &view, int side)
 {
@@ -39,8 +39,8 @@ public:
     Frozen()
     {
         kit::setUp(&view, 50, 12);
-        view.setFrozenColumns(left, true, 2);
-        view.setFrozenColumns(right, true, 2);
+        view.setFrozenColumns(leftSide, true, 2);
+        view.setFrozenColumns(rightSide, true, 2);
         table = view.getTableView();
     }
 
@@ -57,24 +57,24 @@ private slots:
     void frozenSidesShowTheirColumnsOnly()
     {
         Frozen f;
-        QCOMPARE(shownColumns(sideOf(f.view, left)), (QList<int>{0, 1}));
-        QCOMPARE(shownColumns(sideOf(f.view, right)), (QList<int>{10, 11}));
-        QCOMPARE(f.view.getFrozenColumns(left), 2);
-        QCOMPARE(f.view.getFrozenColumns(right), 2);
-        QVERIFY(sideOf(f.view, left)->isVisible());
+        QCOMPARE(shownColumns(sideOf(f.view, leftSide)), (QList<int>{0, 1}));
+        QCOMPARE(shownColumns(sideOf(f.view, rightSide)), (QList<int>{10, 11}));
+        QCOMPARE(f.view.getFrozenColumns(leftSide), 2);
+        QCOMPARE(f.view.getFrozenColumns(rightSide), 2);
+        QVERIFY(sideOf(f.view, leftSide)->isVisible());
     }
 
     void moreColumnsThanExistFreezeNothing()
     {
         ZrTableView view;
         kit::setUp(&view, 3, 4);
-        view.setFrozenColumns(left, true, 5);
-        QVERIFY(!sideOf(view, left));
-        QCOMPARE(view.getFrozenColumns(left), 0);
-        view.setFrozenColumns(left, true, 4);
-        QVERIFY(sideOf(view, left));
-        view.setFrozenColumns(left, false, 5);
-        QVERIFY(sideOf(view, left)); // also a call that would thaw ends at such a count
+        view.setFrozenColumns(leftSide, true, 5);
+        QVERIFY(!sideOf(view, leftSide));
+        QCOMPARE(view.getFrozenColumns(leftSide), 0);
+        view.setFrozenColumns(leftSide, true, 4);
+        QVERIFY(sideOf(view, leftSide));
+        view.setFrozenColumns(leftSide, false, 5);
+        QVERIFY(sideOf(view, leftSide)); // also a call that would thaw ends at such a count
     }
 
     void countBelowOneFreezesNothing_data()
@@ -89,8 +89,8 @@ private slots:
         QFETCH(int, count);
         ZrTableView view;
         kit::setUp(&view, 3, 4);
-        view.setFrozenColumns(right, true, count);
-        QVERIFY(!sideOf(view, right));
+        view.setFrozenColumns(rightSide, true, count);
+        QVERIFY(!sideOf(view, rightSide));
     }
 
     void sideThatIsNoneIsIgnored()
@@ -99,7 +99,7 @@ private slots:
         kit::setUp(&view, 3, 4);
         view.setFrozenColumns(3, true, 1);
         QCOMPARE(view.getFrozenColumns(3), 0);
-        QVERIFY(!sideOf(view, left) && !sideOf(view, right));
+        QVERIFY(!sideOf(view, leftSide) && !sideOf(view, rightSide));
     }
 
     void edgeMayNotCutAGroup_data()
@@ -107,13 +107,13 @@ private slots:
         QTest::addColumn<int>("side");
         QTest::addColumn<int>("count");
         QTest::addColumn<int>("expected");
-        QTest::newRow("left, inside the first group") << left << 1 << 0;
-        QTest::newRow("left, at its end") << left << 2 << 2;
-        QTest::newRow("left, between plain columns") << left << 3 << 3;
-        QTest::newRow("left, all columns") << left << 6 << 6;
-        QTest::newRow("right, inside the last group") << right << 1 << 0;
-        QTest::newRow("right, at its start") << right << 2 << 2;
-        QTest::newRow("right, between plain columns") << right << 3 << 3;
+        QTest::newRow("left, inside the first group") << leftSide << 1 << 0;
+        QTest::newRow("left, at its end") << leftSide << 2 << 2;
+        QTest::newRow("left, between plain columns") << leftSide << 3 << 3;
+        QTest::newRow("left, all columns") << leftSide << 6 << 6;
+        QTest::newRow("right, inside the last group") << rightSide << 1 << 0;
+        QTest::newRow("right, at its start") << rightSide << 2 << 2;
+        QTest::newRow("right, between plain columns") << rightSide << 3 << 3;
     }
 
     void edgeMayNotCutAGroup()
@@ -133,33 +133,34 @@ private slots:
     void thawingRemovesTheSideTableLater()
     {
         Frozen f;
-        const QPointer<QTableView> table = sideOf(f.view, left);
-        f.view.setFrozenColumns(left, false, 0);
-        QCOMPARE(f.view.getFrozenColumns(left), 0);
-        QVERIFY(!sideOf(f.view, left));
+        const QPointer<QTableView> table = sideOf(f.view, leftSide);
+        f.view.setFrozenColumns(leftSide, false, 0);
+        QCOMPARE(f.view.getFrozenColumns(leftSide), 0);
+        QVERIFY(!sideOf(f.view, leftSide));
         QVERIFY(table); // a signal of its own may still be on the stack
         QTRY_VERIFY(!table);
-        QVERIFY(sideOf(f.view, right));
+        QVERIFY(sideOf(f.view, rightSide));
     }
 
     void thawingFromASideTablesOwnSignalIsSafe()
     {
         Frozen f;
-        connect(&f.view, &ZrTableView::pressed, &f.view, [&f] { f.view.setFrozenColumns(left, false, 0); });
-        click(sideOf(f.view, left), 1, 0);
-        QVERIFY(!sideOf(f.view, left));
+        connect(&f.view, &ZrTableView::pressed, &f.view,
+                [&f] { f.view.setFrozenColumns(leftSide, false, 0); });
+        click(sideOf(f.view, leftSide), 1, 0);
+        QVERIFY(!sideOf(f.view, leftSide));
     }
 
     void sidesScrollVerticallyWithTheMainTableAndItWithThem()
     {
         Frozen f;
         f.table->verticalScrollBar()->setValue(7);
-        QCOMPARE(sideOf(f.view, left)->verticalScrollBar()->value(), 7);
-        QCOMPARE(sideOf(f.view, right)->verticalScrollBar()->value(), 7);
-        sideOf(f.view, left)->verticalScrollBar()->setValue(3);
+        QCOMPARE(sideOf(f.view, leftSide)->verticalScrollBar()->value(), 7);
+        QCOMPARE(sideOf(f.view, rightSide)->verticalScrollBar()->value(), 7);
+        sideOf(f.view, leftSide)->verticalScrollBar()->setValue(3);
         QCOMPARE(f.table->verticalScrollBar()->value(), 3);
-        QCOMPARE(sideOf(f.view, right)->verticalScrollBar()->value(), 3);
-        sideOf(f.view, right)->verticalScrollBar()->setValue(5);
+        QCOMPARE(sideOf(f.view, rightSide)->verticalScrollBar()->value(), 3);
+        sideOf(f.view, rightSide)->verticalScrollBar()->setValue(5);
         QCOMPARE(f.table->verticalScrollBar()->value(), 5);
     }
 
@@ -169,24 +170,24 @@ private slots:
         kit::setUp(&view, 50, 6);
         view.getTableView()->verticalScrollBar()->setValue(9);
         view.setCurrentIndex(view.index(11, 1));
-        view.setFrozenColumns(left, true, 2);
-        QCOMPARE(sideOf(view, left)->verticalScrollBar()->value(), 9);
-        QCOMPARE(sideOf(view, left)->currentIndex(), view.index(11, 1));
+        view.setFrozenColumns(leftSide, true, 2);
+        QCOMPARE(sideOf(view, leftSide)->verticalScrollBar()->value(), 9);
+        QCOMPARE(sideOf(view, leftSide)->currentIndex(), view.index(11, 1));
     }
 
     void mainTableScrollsSidewaysUnderTheSides()
     {
         Frozen f;
         f.table->horizontalScrollBar()->setValue(200);
-        QCOMPARE(sideOf(f.view, left)->horizontalScrollBar()->value(), 0);
-        QCOMPARE(shownColumns(sideOf(f.view, left)), (QList<int>{0, 1}));
-        QVERIFY(!sideOf(f.view, left)->horizontalScrollBar()->isVisible());
+        QCOMPARE(sideOf(f.view, leftSide)->horizontalScrollBar()->value(), 0);
+        QCOMPARE(shownColumns(sideOf(f.view, leftSide)), (QList<int>{0, 1}));
+        QVERIFY(!sideOf(f.view, leftSide)->horizontalScrollBar()->isVisible());
     }
 
     void leftSideLiesOverTheLeftEdge()
     {
         Frozen f;
-        const QTableView *const side = sideOf(f.view, left);
+        const QTableView *const side = sideOf(f.view, leftSide);
         QCOMPARE(side->pos(), QPoint(f.table->frameWidth(), f.table->frameWidth()));
         QCOMPARE(side->width(), 160);
         QCOMPARE(side->height(), f.table->viewport()->height() + f.table->horizontalHeader()->height());
@@ -197,7 +198,7 @@ private slots:
     void rightSideLiesOverTheRightEdgeWithABarOfItsOwn()
     {
         Frozen f;
-        const QTableView *const side = sideOf(f.view, right);
+        const QTableView *const side = sideOf(f.view, rightSide);
         QTRY_VERIFY(side->verticalScrollBar()->isVisible());
         const int columnsPx = side->columnWidth(10) + side->columnWidth(11);
         const int widthPx = columnsPx + side->verticalScrollBar()->width();
@@ -209,7 +210,7 @@ private slots:
     void rightSideNarrowsWhenItsBarGoes()
     {
         Frozen f;
-        const QTableView *const side = sideOf(f.view, right);
+        const QTableView *const side = sideOf(f.view, rightSide);
         QTRY_VERIFY(side->verticalScrollBar()->isVisible());
         f.view.clear();
         QTRY_VERIFY(!side->verticalScrollBar()->isVisible());
@@ -220,7 +221,7 @@ private slots:
     {
         Frozen f;
         f.view.resize(700, 420);
-        const QTableView *const side = sideOf(f.view, right);
+        const QTableView *const side = sideOf(f.view, rightSide);
         QTRY_COMPARE(side->x() + side->width(), f.table->width());
         QCOMPARE(side->height(), f.table->viewport()->height() + f.table->horizontalHeader()->height());
     }
@@ -229,19 +230,19 @@ private slots:
     {
         Frozen f;
         f.view.setColumnShow(1, false);
-        QCOMPARE(shownColumns(sideOf(f.view, left)), QList<int>{0});
-        QCOMPARE(sideOf(f.view, left)->width(), 80);
+        QCOMPARE(shownColumns(sideOf(f.view, leftSide)), QList<int>{0});
+        QCOMPARE(sideOf(f.view, leftSide)->width(), 80);
         f.view.setColumnShow(1, true);
-        QCOMPARE(shownColumns(sideOf(f.view, left)), (QList<int>{0, 1}));
-        QCOMPARE(sideOf(f.view, left)->width(), 160);
+        QCOMPARE(shownColumns(sideOf(f.view, leftSide)), (QList<int>{0, 1}));
+        QCOMPARE(sideOf(f.view, leftSide)->width(), 160);
     }
 
     void frozenColumnResizedInTheLeftHeadWidensTheSide()
     {
         Frozen f;
-        headOf(f.view, left)->resizeSection(1, 130);
+        headOf(f.view, leftSide)->resizeSection(1, 130);
         QCOMPARE(f.table->columnWidth(1), 130);
-        QCOMPARE(sideOf(f.view, left)->width(), 210);
+        QCOMPARE(sideOf(f.view, leftSide)->width(), 210);
     }
 
     void columnResizedInTheMainHeadIsResizedInBothSides()
@@ -249,9 +250,9 @@ private slots:
         Frozen f;
         f.table->horizontalHeader()->resizeSection(0, 95);
         f.table->horizontalHeader()->resizeSection(10, 66);
-        QCOMPARE(sideOf(f.view, left)->columnWidth(0), 95);
-        QCOMPARE(sideOf(f.view, left)->width(), 175);
-        QCOMPARE(sideOf(f.view, right)->columnWidth(10), 66);
+        QCOMPARE(sideOf(f.view, leftSide)->columnWidth(0), 95);
+        QCOMPARE(sideOf(f.view, leftSide)->width(), 175);
+        QCOMPARE(sideOf(f.view, rightSide)->columnWidth(10), 66);
     }
 
     void columnThatASideDoesNotHoldStaysAsTheMainHeadHasIt()
@@ -259,17 +260,17 @@ private slots:
         Frozen f;
         f.view.getTableView()->updateSectionWidth(0, 0,
                                                   f.table->columnWidth(0)); // not from a head: the main one's
-        headOf(f.view, left)->showSection(5);
-        headOf(f.view, left)->resizeSection(5, 33);
+        headOf(f.view, leftSide)->showSection(5);
+        headOf(f.view, leftSide)->resizeSection(5, 33);
         QCOMPARE(f.table->columnWidth(5), 80);
     }
 
     void rightColumnsCannotBeDragged()
     {
         Frozen f;
-        QCOMPARE(headOf(f.view, right)->sectionResizeMode(10), QHeaderView::Fixed);
-        QCOMPARE(headOf(f.view, left)->sectionResizeMode(0), QHeaderView::Interactive);
-        headOf(f.view, right)->resizeSection(11, 50); // by code
+        QCOMPARE(headOf(f.view, rightSide)->sectionResizeMode(10), QHeaderView::Fixed);
+        QCOMPARE(headOf(f.view, leftSide)->sectionResizeMode(0), QHeaderView::Interactive);
+        headOf(f.view, rightSide)->resizeSection(11, 50); // by code
         QCOMPARE(f.table->columnWidth(11), 50);
     }
 
@@ -277,11 +278,11 @@ private slots:
     {
         Frozen f;
         f.view.setRowHeight(4, 51);
-        QCOMPARE(sideOf(f.view, left)->rowHeight(4), 51);
-        QCOMPARE(sideOf(f.view, right)->rowHeight(4), 51);
+        QCOMPARE(sideOf(f.view, leftSide)->rowHeight(4), 51);
+        QCOMPARE(sideOf(f.view, rightSide)->rowHeight(4), 51);
         f.view.setItemHeight(31);
-        QCOMPARE(sideOf(f.view, left)->rowHeight(3), 31);
-        QCOMPARE(sideOf(f.view, left)->rowHeight(4), 51);
+        QCOMPARE(sideOf(f.view, leftSide)->rowHeight(3), 31);
+        QCOMPARE(sideOf(f.view, leftSide)->rowHeight(4), 51);
     }
 
     void pressInAnyPartMakesTheCellCurrentInAll_data()
@@ -289,8 +290,8 @@ private slots:
         QTest::addColumn<int>("part");
         QTest::addColumn<int>("column");
         QTest::newRow("main table") << 0 << 3;
-        QTest::newRow("left") << left << 1;
-        QTest::newRow("right") << right << 10;
+        QTest::newRow("left") << leftSide << 1;
+        QTest::newRow("right") << rightSide << 10;
     }
 
     void pressInAnyPartMakesTheCellCurrentInAll()
@@ -306,8 +307,8 @@ private slots:
         click(table, 2, column);
         const QModelIndex index = f.view.index(2, column);
         QCOMPARE(f.table->currentIndex(), index);
-        QCOMPARE(sideOf(f.view, left)->currentIndex(), index);
-        QCOMPARE(sideOf(f.view, right)->currentIndex(), index);
+        QCOMPARE(sideOf(f.view, leftSide)->currentIndex(), index);
+        QCOMPARE(sideOf(f.view, rightSide)->currentIndex(), index);
         QCOMPARE(pressed.count(), 1);
         QCOMPARE(clicked.count(), 1);
         QCOMPARE(clicked.first().first().toModelIndex(), index);
@@ -319,9 +320,9 @@ private slots:
     {
         Frozen f;
         QSignalSpy spy(&f.view, &ZrTableView::doubleClicked);
-        click(sideOf(f.view, left), 1, 1);
-        QTest::mouseDClick(sideOf(f.view, left)->viewport(), Qt::LeftButton, Qt::NoModifier,
-                           kit::middleOf(sideOf(f.view, left), 1, 1));
+        click(sideOf(f.view, leftSide), 1, 1);
+        QTest::mouseDClick(sideOf(f.view, leftSide)->viewport(), Qt::LeftButton, Qt::NoModifier,
+                           kit::middleOf(sideOf(f.view, leftSide), 1, 1));
         QCOMPARE(spy.count(), 1);
     }
 
@@ -329,8 +330,8 @@ private slots:
     {
         QTest::addColumn<int>("part");
         QTest::newRow("main table") << 0;
-        QTest::newRow("left") << left;
-        QTest::newRow("right") << right;
+        QTest::newRow("left") << leftSide;
+        QTest::newRow("right") << rightSide;
     }
 
     void upAndDownMoveAllParts()
@@ -341,7 +342,7 @@ private slots:
         f.view.setCurrentIndex(f.view.index(4, 3));
         const auto expectRow = [&f](int row) {
             for (const QTableView *const each :
-                 {static_cast<QTableView *>(f.table), sideOf(f.view, left), sideOf(f.view, right)})
+                 {static_cast<QTableView *>(f.table), sideOf(f.view, leftSide), sideOf(f.view, rightSide)})
                 QCOMPARE(each->currentIndex(), f.view.index(row, 0));
         };
         QSignalSpy current(&f.view, &ZrTableView::currentIndexChanged);
@@ -358,10 +359,11 @@ private slots:
         Frozen f;
         f.view.setCurrentIndex(f.view.index(0, 0));
         for (int step = 0; step < 30; ++step)
-            QTest::keyClick(sideOf(f.view, left), Qt::Key_Down);
+            QTest::keyClick(sideOf(f.view, leftSide), Qt::Key_Down);
         QVERIFY(f.table->viewport()->rect().contains(f.table->visualRect(f.view.index(30, 3)).center().x(),
                                                      f.table->visualRect(f.view.index(30, 0)).center().y()));
-        QCOMPARE(sideOf(f.view, left)->verticalScrollBar()->value(), f.table->verticalScrollBar()->value());
+        QCOMPARE(sideOf(f.view, leftSide)->verticalScrollBar()->value(),
+                 f.table->verticalScrollBar()->value());
     }
 
     void upAtTheFirstRowAndDownAtTheLastAreSwallowed_data()
@@ -381,7 +383,7 @@ private slots:
         QSignalSpy current(&f.view, &ZrTableView::currentIndexChanged);
         QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
         QVERIFY(f.table->eventFilter(f.table, &press));
-        QVERIFY(f.table->eventFilter(sideOf(f.view, left), &press));
+        QVERIFY(f.table->eventFilter(sideOf(f.view, leftSide), &press));
         QCOMPARE(f.table->currentIndex(), f.view.index(row, 3));
         QCOMPARE(current.count(), 0);
     }
@@ -398,11 +400,11 @@ private slots:
     {
         Frozen f;
         f.view.setCurrentIndex(f.view.index(0, 0));
-        QTest::keyClick(sideOf(f.view, left), Qt::Key_PageDown);
-        const QModelIndex now = sideOf(f.view, left)->currentIndex();
+        QTest::keyClick(sideOf(f.view, leftSide), Qt::Key_PageDown);
+        const QModelIndex now = sideOf(f.view, leftSide)->currentIndex();
         QVERIFY(now.row() > 0);
         QCOMPARE(f.table->currentIndex(), now);
-        QCOMPARE(sideOf(f.view, right)->currentIndex(), now);
+        QCOMPARE(sideOf(f.view, rightSide)->currentIndex(), now);
     }
 
     void pageDownInTheMainTableScrollsThere()
@@ -422,7 +424,8 @@ private slots:
         f.table->horizontalScrollBar()->setValue(6 * 80 - 160); // column 6 right beside the left side
         QTest::keyClick(f.table, Qt::Key_Left);
         QCOMPARE(f.table->currentIndex().column(), 5);
-        QCOMPARE(f.table->visualRect(f.table->currentIndex()).left(), sideOf(f.view, left)->columnWidth(0));
+        QCOMPARE(f.table->visualRect(f.table->currentIndex()).left(),
+                 sideOf(f.view, leftSide)->columnWidth(0));
     }
 
     void leftKeyInPlainSightScrollsNothing()
@@ -445,8 +448,8 @@ private slots:
         QTest::addColumn<int>("part");
         QTest::addColumn<int>("column");
         QTest::newRow("main head") << 0 << 3;
-        QTest::newRow("left head") << left << 1;
-        QTest::newRow("right head") << right << 10;
+        QTest::newRow("left head") << leftSide << 1;
+        QTest::newRow("right head") << rightSide << 10;
     }
 
     void onlyTheClickedHeadKeepsItsIndicatorAndTheSortRunsOnce()
@@ -456,8 +459,8 @@ private slots:
         Frozen f;
         QHeaderView *const main = f.table->horizontalHeader();
         // First another head, so that there is an indicator to lose.
-        QHeaderView *const other = part == left ? main : headOf(f.view, left);
-        const int otherColumn = part == left ? 3 : 0;
+        QHeaderView *const other = part == leftSide ? main : headOf(f.view, leftSide);
+        const int otherColumn = part == leftSide ? 3 : 0;
         QTest::mouseClick(other->viewport(), Qt::LeftButton, Qt::NoModifier,
                           kit::middleOf(other, otherColumn));
         QVERIFY(other->isSortIndicatorShown());
@@ -466,9 +469,9 @@ private slots:
         QSignalSpy sorted(&f.view, &ZrTableView::signalSortIndicatorChanged);
         QSignalSpy reset(f.view.getZrTableModel(), &QAbstractItemModel::modelReset);
         QTest::mouseClick(head->viewport(), Qt::LeftButton, Qt::NoModifier, kit::middleOf(head, column));
-        for (const QHeaderView *const each :
-             {static_cast<const QHeaderView *>(main), static_cast<const QHeaderView *>(headOf(f.view, left)),
-              static_cast<const QHeaderView *>(headOf(f.view, right))})
+        for (const QHeaderView *const each : {static_cast<const QHeaderView *>(main),
+                                              static_cast<const QHeaderView *>(headOf(f.view, leftSide)),
+                                              static_cast<const QHeaderView *>(headOf(f.view, rightSide))})
             QCOMPARE(each->isSortIndicatorShown(), each == head);
         QCOMPARE(sorted.count(), 1);
         QCOMPARE(sorted.first().first().toInt(), column);
@@ -478,9 +481,9 @@ private slots:
     void indicatorSlotSwitchesTheOthersOff()
     {
         Frozen f;
-        headOf(f.view, left)->setSortIndicatorShown(true);
+        headOf(f.view, leftSide)->setSortIndicatorShown(true);
         f.table->slotSortIndicatorChanged(0, Qt::AscendingOrder);
-        QVERIFY(!headOf(f.view, left)->isSortIndicatorShown());
+        QVERIFY(!headOf(f.view, leftSide)->isSortIndicatorShown());
     }
 
     void checkBoxClickedInTheLeftHeadChecksAllRows()
@@ -488,9 +491,9 @@ private slots:
         ZrTableView view;
         kit::setUp(&view, 5, 6);
         view.setCheckBoxShow(true);
-        view.setFrozenColumns(left, true, 2);
+        view.setFrozenColumns(leftSide, true, 2);
         QSignalSpy state(&view, &ZrTableView::signalHeadCheckStateChanged);
-        QHeaderView *const head = headOf(view, left);
+        QHeaderView *const head = headOf(view, leftSide);
         QTest::mouseClick(head->viewport(), Qt::LeftButton, Qt::NoModifier, kit::middleOf(head, 0));
         QCOMPARE(state.count(), 1);
         QCOMPARE(view.getRowsByCheckStatus(true).size(), 5);
@@ -501,8 +504,8 @@ private slots:
         ZrTableView view;
         kit::setUp(&view, 5, 6);
         view.setCheckBoxShow(true);
-        view.setFrozenColumns(left, true, 2);
-        click(sideOf(view, left), 3, 0);
+        view.setFrozenColumns(leftSide, true, 2);
+        click(sideOf(view, leftSide), 3, 0);
         QCOMPARE(view.getRowsByCheckStatus(true), QList<int>{3});
     }
 
@@ -510,14 +513,14 @@ private slots:
     {
         Frozen f;
         f.view.setCheckBoxShow(true);
-        QCOMPARE(shownColumns(sideOf(f.view, left)), (QList<int>{0, 1}));
-        QTRY_COMPARE(shownColumns(sideOf(f.view, right)), (QList<int>{11, 12}));
+        QCOMPARE(shownColumns(sideOf(f.view, leftSide)), (QList<int>{0, 1}));
+        QTRY_COMPARE(shownColumns(sideOf(f.view, rightSide)), (QList<int>{11, 12}));
     }
 
     void sidesHaveTheMainTablesSettings()
     {
         Frozen f;
-        const QTableView *const side = sideOf(f.view, left);
+        const QTableView *const side = sideOf(f.view, leftSide);
         QCOMPARE(side->selectionMode(), QAbstractItemView::SingleSelection);
         QCOMPARE(side->verticalScrollMode(), QAbstractItemView::ScrollPerItem);
         QCOMPARE(side->horizontalScrollMode(), QAbstractItemView::ScrollPerPixel);
@@ -533,7 +536,7 @@ private slots:
         f.table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
         f.table->setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);
         f.table->setMinimumHeadHeight(61);
-        for (const int each : {left, right}) {
+        for (const int each : {leftSide, rightSide}) {
             QCOMPARE(sideOf(f.view, each)->selectionMode(), QAbstractItemView::ExtendedSelection);
             QCOMPARE(sideOf(f.view, each)->selectionBehavior(), QAbstractItemView::SelectRows);
             QVERIFY(!sideOf(f.view, each)->alternatingRowColors());
@@ -548,20 +551,20 @@ private slots:
     {
         Frozen f;
         f.view.setColumnDefaultWidth(70);
-        QCOMPARE(sideOf(f.view, left)->width(), 140);
-        QCOMPARE(headOf(f.view, right)->defaultSectionSize(), 70);
+        QCOMPARE(sideOf(f.view, leftSide)->width(), 140);
+        QCOMPARE(headOf(f.view, rightSide)->defaultSectionSize(), 70);
         f.view.setColumnMinimumWidth(75);
-        QCOMPARE(headOf(f.view, right)->minimumSectionSize(), 75);
+        QCOMPARE(headOf(f.view, rightSide)->minimumSectionSize(), 75);
     }
 
     void hiddenHeadIsHiddenInTheSidesToo()
     {
         Frozen f;
         f.view.setHorizontalHeaderHide(true);
-        QVERIFY(headOf(f.view, left)->isHidden());
-        QCOMPARE(sideOf(f.view, left)->height(), f.table->viewport()->height());
+        QVERIFY(headOf(f.view, leftSide)->isHidden());
+        QCOMPARE(sideOf(f.view, leftSide)->height(), f.table->viewport()->height());
         f.view.setZrTableHorizontalHeaderVisiable(true);
-        QVERIFY(!headOf(f.view, left)->isHidden());
+        QVERIFY(!headOf(f.view, leftSide)->isHidden());
     }
 
     void modelResetKeepsTheCurrentRowInAllParts()
@@ -570,8 +573,8 @@ private slots:
         f.view.setCurrentIndex(f.view.index(8, 0));
         f.view.getZrTableModel()->update();
         QCOMPARE(f.table->currentIndex().row(), 8);
-        QCOMPARE(sideOf(f.view, left)->currentIndex().row(), 8);
-        QCOMPARE(sideOf(f.view, right)->currentIndex().row(), 8);
+        QCOMPARE(sideOf(f.view, leftSide)->currentIndex().row(), 8);
+        QCOMPARE(sideOf(f.view, rightSide)->currentIndex().row(), 8);
     }
 
     void selectionOfSeveralRowsInASideSurvivesItsOwnPress()
@@ -580,7 +583,7 @@ private slots:
         f.view.setItemSelectable(true);
         f.view.setSelectionMode(QAbstractItemView::ExtendedSelection);
         f.view.setSelectionBehavior(QAbstractItemView::SelectRows);
-        QTableView *const side = sideOf(f.view, left);
+        QTableView *const side = sideOf(f.view, leftSide);
         click(side, 1, 0);
         QTest::mouseClick(side->viewport(), Qt::LeftButton, Qt::ControlModifier, kit::middleOf(side, 3, 0));
         QCOMPARE(side->selectionModel()->selectedRows().size(), 2);
@@ -601,16 +604,16 @@ private slots:
         Frozen f;
         ZrHeaderView *const head = new ZrHeaderView(Qt::Horizontal);
         f.view.setZrTableHorizontalHeader(head);
-        QCOMPARE(shownColumns(sideOf(f.view, left)), (QList<int>{0, 1}));
-        headOf(f.view, left)->resizeSection(0, 99);
+        QCOMPARE(shownColumns(sideOf(f.view, leftSide)), (QList<int>{0, 1}));
+        headOf(f.view, leftSide)->resizeSection(0, 99);
         QCOMPARE(head->sectionSize(0), 99);
     }
 
     void tableWithoutAViewFreezesNothing()
     {
         FreezeTableView table;
-        table.setFrozenSide(left, true);
-        QVERIFY(!table.frozenTable(left));
+        table.setFrozenSide(leftSide, true);
+        QVERIFY(!table.frozenTable(leftSide));
         table.setHorizontalHeader(nullptr);
         table.slotClicked(QModelIndex());
         QVERIFY(table.alternatingRowColors());

@@ -58,7 +58,9 @@ public:
         panes.setHost(&host);
         panes.attachMainHead();
         window.resize(400, 300);
+        window.setAttribute(Qt::WA_DontShowOnScreen);
         window.show();
+        QCoreApplication::processEvents();
     }
 
     QStandardItemModel model;

@@ -16,8 +16,7 @@ private slots:
         ZrTableView view;
         HeadList heads = grouped();
         view.resize(400, 200);
-        view.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        kit::show(&view);
         const int bandPx = view.getZrTableHorizontalHeader()->height();
         view.setHeadList(heads);
         QVERIFY(view.getPrivate()->groupedHead);
@@ -34,7 +33,7 @@ private slots:
         ZrTableView view;
         HeadList heads = grouped();
         view.setHeadList(heads);
-        view.show();
+        kit::show(&view);
         QTRY_VERIFY(view.getPrivate()->headHeightDoubled);
         const int heightPx = view.getZrTableHorizontalHeader()->minimumHeight();
         view.setHeadList(heads);
@@ -59,7 +58,7 @@ private slots:
         HeadList heads = grouped();
         view.setHeadList(heads);
         view.resize(400, 200);
-        view.show();
+        kit::show(&view);
         QTRY_VERIFY(view.getPrivate()->headHeightDoubled);
         view.setFrozenColumns(1, true, 2);
         for (int time = 0; time < 3; ++time) {

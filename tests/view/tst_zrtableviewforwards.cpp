@@ -426,7 +426,7 @@ private slots:
         ZrTableView view;
         view.loadSkin(
             QStringLiteral("ZrTableView { qproperty-itemHeight: 41; qproperty-upColor: #010203; }"));
-        view.show();
+        kit::show(&view);
         QTRY_COMPARE(view.itemHeight(), 41);
         QCOMPARE(view.upColor(), QColor(1, 2, 3));
         view.loadSkin(QVariant());
