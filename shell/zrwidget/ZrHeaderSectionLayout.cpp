@@ -31,8 +31,10 @@ ZrHeaderSectionLayout::ZrHeaderSectionLayout(const Input &input)
         label.setWidth(label.width() - marks * labelRoomPx + margin);
     const int buttonPx = input.filterButtonPx;
     filterButton = QRect(section.right() - buttonPx, bottomBand.top(), buttonPx, bottomBand.height());
-    filterPicture =
-        QRect(filterButton.left(), (section.height() - buttonPx) / 2 + section.top(), buttonPx, buttonPx);
+    // Centred in the button's own area. In a grouped section that is the bottom band: centred in the whole
+    // section, the picture would lie across the band line, and its upper half where a press meets nothing.
+    filterPicture = QRect(filterButton.left(), bottomBand.top() + (bottomBand.height() - buttonPx) / 2,
+                          buttonPx, buttonPx);
     tip = QRect(label.right(), (section.height() - picturePx) / 2 + section.top(), picturePx, picturePx);
 }
 

@@ -15,8 +15,7 @@
 ///     +--------------------------+
 ///
 /// Shape:   computed from the section's rect; the head paints by it, and hits are tested by it, so that a
-/// press
-///          meets what this head shows even when several heads share their state.
+///          press meets what this head shows even when several heads share their state.
 /// Units:   logical px, in the coordinates of the section's rect.
 /// Threads: any.
 class ZRWIDGET_PRIVATE_EXPORT ZrHeaderSectionLayout
@@ -42,7 +41,7 @@ public:
     QRect groupName;     // null for a plain section
     QRect label;         // less the room for filter button and tip
     QRect filterButton;  // as high as the section or its bottom band: what a press may hit
-    QRect filterPicture; // the painted part, centred in the section's whole height, grouped or not
+    QRect filterPicture; // the painted part, centred in filterButton
     QRect tip;
 
     /// Place of the check box; in a tree it leaves room for the branch marks below it.
