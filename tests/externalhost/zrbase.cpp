@@ -12,6 +12,11 @@ IMessageInterface::~IMessageInterface()
 {
     Q_UNUSED(d)
 }
+bool IMessageInterface::event(QEvent *event)
+{
+    return QObject::event(event);
+}
+
 void IMessageInterface::ProcMsg(QString, QVariant, QVariant) {}
 void IMessageInterface::ProcEventMsg(QString, QVariant, QVariant) {}
 void IMessageInterface::ProcQuotationMsg(QString, QVariant, QVariant) {}
