@@ -7,6 +7,7 @@ option(ZR_WERROR "treat warnings as errors" OFF)
 option(ZR_COVERAGE "count covered lines" OFF)
 option(ZR_TESTS "build the tests" ON)
 option(ZR_BENCHMARKS "build the benchmarks" OFF)
+option(ZR_THREAD_CORE "build only what the thread sanitizer checks, without windows" OFF)
 option(ZR_FUZZ "build the fuzz targets (clang)" OFF)
 
 if(ZR_HOST STREQUAL "external" AND NOT ZR_HOST_PREFIX)

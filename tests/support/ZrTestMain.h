@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QtTest/QtTest>
+#if defined(QT_WIDGETS_LIB) // the thread sanitizer's build has none
 #include <QtWidgets/QApplication>
+#endif
 
 /// Prepares the process of a test: offscreen unless the caller chose a platform, and with settings,
 /// configuration and cache in a folder of its own that goes away with the object.

@@ -1,0 +1,52 @@
+#include "ZrEventLoop.h"
+
+#include <QtCore/QThread>
+
+ZrEventLoop::Pointer ZrEventLoop::create()
+{
+    return Pointer(new ZrEventLoop, [](ZrEventLoop *loop) { loop->deleteLater(); });
+}
+
+ZrEventLoop::ZrEventLoop()
+    : QEventLoop(nullptr)
+{
+}
+
+ZrEventLoop::~ZrEventLoop() = default;
+
+void ZrEventLoop::run()
+{
+    if (!m_hasEnded)
+        exec();
+}
+
+void ZrEventLoop::finish()
+{
+    if (QThread::currentThread() == thread()) {
+        end();
+        return;
+    }
+    // Queued: the other thread may be between its look at m_hasEnded and exec(), which forgets an earlier
+    // quit.
+    QMetaObject::invokeMethod(
+        this, [this] { end(); }, Qt::QueuedConnection);
+}
+
+qlonglong ZrEventLoop::address() const
+{
+    return static_cast<qlonglong>(reinterpret_cast<qintptr>(this));
+}
+
+void ZrEventLoop::slotReceiveResp(qlonglong ptr, QVariant resp)
+{
+    if (ptr != address())
+        return;
+    response = resp;
+    end();
+}
+
+void ZrEventLoop::end()
+{
+    m_hasEnded = true;
+    quit();
+}
