@@ -10,6 +10,7 @@
 
 #include <QtTest/QtTest>
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLayout>
 #include <QtWidgets/QScrollBar>
 
 /// Small grids for the tests of the view family. Column 0 is the key, the others hold numbers.
