@@ -3,6 +3,7 @@
 #include "ZrTestMain.h"
 #include "ZrViewTestKit.h"
 
+#include <QtCore/QLoggingCategory>
 #include <QtCore/QRandomGenerator>
 
 namespace {
@@ -206,6 +207,12 @@ class TestZrTableViewRandom : public QObject
 {
     Q_OBJECT
 private slots:
+    void initTestCase()
+    {
+        // Each batch writes a line; a hundred thousand of them would be most of the work.
+        QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    }
+
     void everyPartShowsTheRowsThatThereAre_data()
     {
         QTest::addColumn<quint32>("seed");
