@@ -458,10 +458,11 @@ void ZrTableView::setItemWidget(int row, int column, QWidget *widget, bool adjus
     const QModelIndex index = column < 0 ? QModelIndex() : d->model->getIndex(row, column);
     if (!index.isValid())
         return;
+    const int heightPx = widget ? widget->height() : 0; // before the cell gives it its own
     d->table->setIndexWidget(index, widget);
     d->model->setIndexWidget(row, column, widget);
     if (adjustRowHeight && widget)
-        d->table->setRowHeight(index.row(), widget->height());
+        d->table->setRowHeight(index.row(), heightPx);
 }
 
 QWidget *ZrTableView::indexWidget(int row, int column) const

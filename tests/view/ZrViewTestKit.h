@@ -54,11 +54,13 @@ inline void fill(ZrTableView *view, int rows, int columns)
     view->addRecordDataList(list);
 }
 
-/// Lays a widget out and lets it take events without a window of the platform: the offscreen one warns of
-/// each.
+/// Lays a widget out inside a plain window: the offscreen platform warns of each window that a layout bounds.
 inline void show(QWidget *widget)
 {
-    widget->setAttribute(Qt::WA_DontShowOnScreen);
+    static QWidget *const stage = new QWidget; // lives as long as the process
+    stage->resize(1000, 800);
+    stage->show();
+    widget->setParent(stage);
     widget->show();
     QCoreApplication::processEvents();
 }

@@ -14,6 +14,8 @@ private slots:
     void groupedHeadGetsTwoBands()
     {
         ZrTableView view;
+        HeadList plain = kit::heads(4);
+        view.setHeadList(plain);
         HeadList heads = grouped();
         view.resize(400, 200);
         kit::show(&view);

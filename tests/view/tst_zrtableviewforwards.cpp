@@ -351,6 +351,7 @@ private slots:
     {
         ZrTableView view;
         kit::setUp(&view, 0, 3);
+        qRegisterMetaType<ZrHeaderView *>();
         QSignalSpy spy(view.getPrivate(), &ZrTableViewPrivate::signalFilterRequested);
         view.getPrivate()->openFilter(view.getZrTableHorizontalHeader(), 1, QRect(1, 2, 3, 4));
         QCOMPARE(spy.count(), 0);
