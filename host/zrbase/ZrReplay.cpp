@@ -1,7 +1,5 @@
 #include "ZrReplay.h"
 
-#include <QtCore/QDebug>
-
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
@@ -61,8 +59,6 @@ bool ZrReplay::Private::waitUntil(qint64 timeUs)
 
 void ZrReplay::Private::finish()
 {
-    if (!reader->errorText().isEmpty())
-        qWarning().noquote() << reader->errorText();
     exit = nullptr;
     {
         const std::lock_guard<std::mutex> guard(mutex);

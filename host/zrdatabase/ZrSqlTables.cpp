@@ -138,9 +138,11 @@ bool fillTable(Runner &runner, const ZrDataTable &table)
 
 bool readTable(Runner &runner, ZrDataTable &table)
 {
+    // With the table's name before them: SQLite takes a quoted name that is no column for a text.
+    const QString prefix = runner.table(table.name) + QLatin1Char('.');
     QStringList fields;
     for (const ZrDataColumn &column : table.columns)
-        fields.append(runner.field(column.name));
+        fields.append(prefix + runner.field(column.name));
     QSqlQuery query(runner.database());
     if (!runner.run(query, QStringLiteral("SELECT %1 FROM %2 ORDER BY %3")
                                .arg(fields.join(QLatin1Char(',')), runner.table(table.name),

@@ -3,23 +3,43 @@
 #include <algorithm>
 
 namespace {
-const QString rawKey = QStringLiteral("256");
-const QString spareKey = QStringLiteral("257");
-const QString shownKey = QStringLiteral("0");
-
-const QVariant *find(const ItemRoleMap &cell, const QString &key)
+/// The values of a cell that count, by the role keys "0", "256" and "257"; null where there is none.
+struct Roles
 {
-    const auto found = cell.constFind(key);
-    return found == cell.constEnd() ? nullptr : &found.value();
+    const QVariant *raw = nullptr;
+    const QVariant *spare = nullptr;
+    const QVariant *shown = nullptr;
+};
+
+// A walk over the few roles of a cell, looking at single characters, takes a fraction of what three look-ups
+// by text take; sort, filter and sum do this once for each row.
+Roles rolesOf(const ItemRoleMap &cell)
+{
+    Roles roles;
+    for (auto role = cell.constBegin(), end = cell.constEnd(); role != end; ++role) {
+        const int size = role.key().size();
+        const ushort *units = role.key().utf16();
+        if (size == 1 && units[0] == '0') {
+            roles.shown = &role.value();
+        } else if (size == 3 && units[0] == '2' && units[1] == '5') {
+            if (units[2] == '6') {
+                roles.raw = &role.value();
+                break; // nothing goes before it
+            }
+            if (units[2] == '7')
+                roles.spare = &role.value();
+        }
+    }
+    return roles;
 }
 } // namespace
 
 const QVariant *ZrCellValue::of(const ItemRoleMap &cell)
 {
-    if (const QVariant *raw = find(cell, rawKey))
-        return raw;
-    const QVariant *spare = find(cell, spareKey);
-    return spare ? spare : find(cell, shownKey);
+    const Roles roles = rolesOf(cell);
+    if (roles.raw)
+        return roles.raw;
+    return roles.spare ? roles.spare : roles.shown;
 }
 
 const QVariant *ZrCellValue::of(const RecordData &record, int column)
@@ -30,11 +50,10 @@ const QVariant *ZrCellValue::of(const RecordData &record, int column)
 
 const QVariant *ZrCellValue::choiceOf(const ItemRoleMap &cell)
 {
-    if (const QVariant *raw = find(cell, rawKey))
-        return raw;
-    const QVariant *spare = find(cell, spareKey);
-    const QVariant *shown = find(cell, shownKey);
-    return spare && (!shown || !spare->toString().isEmpty()) ? spare : shown;
+    const Roles roles = rolesOf(cell);
+    if (roles.raw)
+        return roles.raw;
+    return roles.spare && (!roles.shown || !roles.spare->toString().isEmpty()) ? roles.spare : roles.shown;
 }
 
 int ZrTextOrder::compare(const QString &a, const QString &b, int from)

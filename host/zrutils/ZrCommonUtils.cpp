@@ -8,7 +8,41 @@
 
 #include <QtCore/QDebug>
 
+#include <algorithm>
+
 namespace {
+/// Equal in type and value: the comparison of variants converts, so that 1 would equal "01".
+bool isSame(const QVariantMap &a, const QVariantMap &b)
+{
+    if (a.isSharedWith(b))
+        return true;
+    return a.size() == b.size() &&
+           std::equal(a.constKeyValueBegin(), a.constKeyValueEnd(), b.constKeyValueBegin(),
+                      [](const auto &left, const auto &right) {
+                          return left.first == right.first &&
+                                 left.second.userType() == right.second.userType() &&
+                                 left.second == right.second;
+                      });
+}
+
+/// Lists that share their data are equal without a look inside them.
+template<typename T>
+bool isSame(const QList<T> &a, const QList<T> &b)
+{
+    return a.isSharedWith(b) ||
+           (a.size() == b.size() &&
+            std::equal(a.constBegin(), a.constEnd(), b.constBegin(),
+                       [](const T &left, const T &right) { return isSame(left, right); }));
+}
+
+bool isSame(const ViewFilterList &a, const ViewFilterList &b)
+{
+    return a.isSharedWith(b) ||
+           (a.keys() == b.keys() &&
+            std::equal(a.constBegin(), a.constEnd(), b.constBegin(),
+                       [](const auto &left, const auto &right) { return isSame(left, right); }));
+}
+
 /// The filter that this thread read last. A grid tests each row of an update alone, with a filter that hardly
 /// changes, and reading it costs more than testing; comparing it costs little, since unchanged parts are
 /// shared.
@@ -21,7 +55,7 @@ const ZrRecordFilter &lastFilter(const ViewFilterList &filters, const QMap<int, 
         ZrRecordFilter filter;
     };
     thread_local Last last;
-    if (last.filters != filters || last.types != types)
+    if (!isSame(last.filters, filters) || last.types != types)
         last = {filters, types, ZrRecordFilter(filters, types)};
     return last.filter;
 }

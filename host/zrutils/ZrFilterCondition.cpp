@@ -10,6 +10,7 @@ namespace {
 constexpr qint64 secondMs = 1000;
 constexpr qint64 minuteMs = 60 * secondMs;
 constexpr qint64 dayMs = 24 * 60 * minuteMs;
+constexpr qint64 farthestDay = Q_INT64_C(100000000000);
 
 int placeOf(ZrValueKind kind)
 {
@@ -18,7 +19,8 @@ int placeOf(ZrValueKind kind)
 
 qint64 startOf(const QDate &date)
 {
-    return date.toJulianDay() * dayMs;
+    // An invalid date, and one beyond all calendars, lies outside of what 64 bits count in ms.
+    return qBound(-farthestDay, date.toJulianDay(), farthestDay) * dayMs;
 }
 
 /// "hh:mm", then optionally ":ss", then ".zzz" or ":zzz".
@@ -47,8 +49,10 @@ ZrClockTime ZrClockTime::fromVariant(const QVariant &value, ZrValueKind kind)
     if (type != QMetaType::QDate && type != QMetaType::QTime && type != QMetaType::QDateTime)
         return fromText(value.toString(), kind);
     // The clock that the value itself is told by, since that is the one its text was made with.
-    const QDate date = type == QMetaType::QDateTime ? value.toDateTime().date() : value.toDate();
-    const QTime time = type == QMetaType::QDateTime ? value.toDateTime().time() : value.toTime();
+    const auto *moment =
+        type == QMetaType::QDateTime ? static_cast<const QDateTime *>(value.constData()) : nullptr;
+    const QDate date = moment ? moment->date() : value.toDate();
+    const QTime time = moment ? moment->time() : value.toTime();
     const qint64 ofDay = time.isValid() ? time.msecsSinceStartOfDay() : 0;
     if (kind == ZrValueKind::Time)
         return {ofDay, 1, time.isValid()};
@@ -84,8 +88,7 @@ ZrValueKind ZrFilterCondition::kindOfType(int type)
     case QMetaType::UnknownType:
         return ZrValueKind::Own;
     default:
-        return ZrNumber::fromVariant(QVariant(type, nullptr)).kind() == ZrNumber::None ? ZrValueKind::Text
-                                                                                       : ZrValueKind::Number;
+        return ZrNumber::isType(type) ? ZrValueKind::Number : ZrValueKind::Text;
     }
 }
 

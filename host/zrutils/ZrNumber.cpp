@@ -112,6 +112,29 @@ ZrNumber ZrNumber::fromVariant(const QVariant &value)
     }
 }
 
+bool ZrNumber::isType(int type)
+{
+    switch (type) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Double:
+    case QMetaType::Float:
+    case QMetaType::Long:
+    case QMetaType::Short:
+    case QMetaType::Char:
+    case QMetaType::SChar:
+    case QMetaType::ULong:
+    case QMetaType::UShort:
+    case QMetaType::UChar:
+        return true;
+    default:
+        return false;
+    }
+}
+
 ZrNumber ZrNumber::fromText(const QString &text)
 {
     bool isNumber = false;

@@ -23,6 +23,8 @@ public:
     static ZrNumber fromBits(Kind kind, quint64 bits) { return ZrNumber(kind, bits); }
     /// A numeric variant; a truth value counts as 0 or 1, a text doesn't count.
     static ZrNumber fromVariant(const QVariant &value);
+    /// Whether fromVariant() reads variants of this type.
+    static bool isType(int type);
     /// A text that is a number as a whole, "true" or "false".
     static ZrNumber fromText(const QString &text);
 

@@ -4,14 +4,15 @@
 #include "zrutils/ZrNumber.h"
 #include "zrutils/ZrRadixSort.h"
 
-#include <QtCore/QDateTime>
-
 #include <algorithm>
 #include <cmath>
 #include <numeric>
 
 namespace {
 constexpr quint64 signBit = quint64(1) << 63;
+constexpr qint64 dayMs = 24 * 60 * 60 * 1000;
+constexpr qint64 epochDay = 2440588; // Julian day of the first day of 1970
+constexpr qint64 farthestDay = Q_INT64_C(100000000000);
 constexpr qint64 exactReals = qint64(1) << 53; // whole numbers up to here are doubles too
 
 /// Bits of a signed number, so that the order of the bits is that of the numbers.
@@ -27,6 +28,26 @@ quint64 realKey(double value)
         return 0;
     const quint64 bits = ZrNumber::fromReal(value + 0.0).asUnsigned();
     return bits & signBit ? ~bits : bits | signBit;
+}
+
+template<typename T>
+const T &stored(const QVariant &value)
+{
+    return *static_cast<const T *>(value.constData());
+}
+
+/// Milliseconds of the clock on the wall since that clock told the start of 1970.
+qint64 wallClockMs(const QDateTime &moment)
+{
+    // Dates beyond all calendars lie outside of what 64 bits count in ms.
+    return qBound(-farthestDay, moment.date().toJulianDay() - epochDay, farthestDay) * dayMs +
+           moment.time().msecsSinceStartOfDay();
+}
+
+qint64 instantOfWallClock(qint64 ms)
+{
+    const QDateTime asUtc = QDateTime::fromMSecsSinceEpoch(ms, Qt::UTC);
+    return QDateTime(asUtc.date(), asUtc.time(), Qt::LocalTime).toMSecsSinceEpoch();
 }
 
 ZrNumber numberOf(quint32 kind, quint64 bits)
@@ -93,19 +114,34 @@ void ZrRecordSorter::take(const QVariant *value, quint32 row)
         m_numbers.push_back({number.asUnsigned(), row, number.kind()});
         return;
     }
-    const int type = value->userType();
-    if (type != QMetaType::QDate && type != QMetaType::QTime && type != QMetaType::QDateTime)
+    switch (value->userType()) {
+    case QMetaType::QDate:
+        return takeMoment(QDateTime(stored<QDate>(*value), QTime(0, 0), Qt::UTC), WallClock, row);
+    case QMetaType::QDateTime: {
+        const QDateTime &moment = stored<QDateTime>(*value);
+        return takeMoment(moment, moment.timeSpec() == Qt::LocalTime ? WallClock : Instant, row);
+    }
+    case QMetaType::QTime:
+        if (stored<QTime>(*value).isValid())
+            m_times.push_back({static_cast<quint64>(stored<QTime>(*value).msecsSinceStartOfDay()), row, 0});
+        else
+            m_missing.push_back(row);
+        return;
+    default:
         return takeText(*value, row);
-    if (type == QMetaType::QDate && value->toDate().isValid())
-        m_moments.push_back({static_cast<quint64>(value->toDate().toJulianDay()), row, QMetaType::QDate});
-    else if (type == QMetaType::QDateTime && value->toDateTime().isValid())
-        m_moments.push_back(
-            {static_cast<quint64>(value->toDateTime().toMSecsSinceEpoch()), row, QMetaType::QDateTime});
-    else if (type == QMetaType::QTime && value->toTime().isValid())
-        m_times.push_back(
-            {static_cast<quint64>(value->toTime().msecsSinceStartOfDay()), row, QMetaType::QTime});
-    else
+    }
+}
+
+// Local time is told by the clock on the wall: it is what the column shows, and asking the time zone for each
+// row would take longer than the rest of the sort.
+void ZrRecordSorter::takeMoment(const QDateTime &moment, MomentKind kind, quint32 row)
+{
+    if (!moment.isValid()) {
         m_missing.push_back(row);
+        return;
+    }
+    const qint64 ms = kind == Instant ? moment.toMSecsSinceEpoch() : wallClockMs(moment);
+    m_moments.push_back({static_cast<quint64>(ms), row, kind});
 }
 
 void ZrRecordSorter::takeText(const QVariant &value, quint32 row)
@@ -148,18 +184,15 @@ void ZrRecordSorter::sortMixedNumbers(bool descending)
     });
 }
 
-// A date among moments is its first instant; dates alone need no clock.
+// The clocks of several time zones meet only in the instants they tell.
 void ZrRecordSorter::sortMoments(bool descending)
 {
-    bool anyMoment = false;
-    for (const Entry &entry : m_moments)
-        anyMoment = anyMoment || entry.kind == QMetaType::QDateTime;
+    const bool anyInstant = std::any_of(m_moments.cbegin(), m_moments.cend(),
+                                        [](const Entry &entry) { return entry.kind == Instant; });
     for (Entry &entry : m_moments) {
-        if (anyMoment && entry.kind == QMetaType::QDate) {
-            const QDate date = QDate::fromJulianDay(static_cast<qint64>(entry.key));
-            entry.key = static_cast<quint64>(date.startOfDay().toMSecsSinceEpoch());
-        }
-        entry.key = signedKey(entry.key);
+        const qint64 ms = static_cast<qint64>(entry.key);
+        entry.key = signedKey(
+            anyInstant && entry.kind == WallClock ? static_cast<quint64>(instantOfWallClock(ms)) : entry.key);
     }
     sortByKey(m_moments, descending);
 }

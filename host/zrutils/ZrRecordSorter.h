@@ -3,6 +3,7 @@
 #include "zrutils/ZrRecordTypes.h"
 #include "zrutils/ZrTextSorter.h"
 
+#include <QtCore/QDateTime>
 #include <QtCore/QPair>
 
 #include <deque>
@@ -12,8 +13,9 @@
 ///
 /// Shape:   per column the values are taken out once and fall into kinds, which follow each other: no value,
 ///          numbers (truth values are 0 and 1), dates and moments, times of day, texts (anything else). So a
-///          mixed column has an order as well. Numbers compare without loss, texts by code point; an invalid
-///          value is no value. Stable in both directions.
+///          mixed column has an order as well. Numbers compare without loss, texts by code point, moments of
+///          local time by the clock on the wall, other moments by the instant; an invalid value is no value.
+///          Stable in both directions.
 /// Threads: any; one object for one sort.
 class ZrRecordSorter
 {
@@ -23,17 +25,19 @@ public:
     void sort(const QList<QPair<int, Qt::SortOrder>> &keys);
 
 private:
+    enum MomentKind : quint32 { WallClock, Instant };
     struct Entry
     {
         quint64 key; // the value's bits, later its place in the order
         quint32 row;
-        quint32 kind; // of a number: ZrNumber::Kind; of a moment: its QMetaType
+        quint32 kind; // of a number: ZrNumber::Kind; of a moment: MomentKind
     };
     using Entries = std::vector<Entry>;
 
     void sortByColumn(int column, bool descending);
     void extract(int column);
     void take(const QVariant *value, quint32 row);
+    void takeMoment(const QDateTime &moment, MomentKind kind, quint32 row);
     void takeText(const QVariant &value, quint32 row);
     void sortNumbers(bool descending);
     void sortMixedNumbers(bool descending);

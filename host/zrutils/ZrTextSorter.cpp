@@ -38,9 +38,9 @@ void ZrTextSorter::sortRange(std::size_t begin, std::size_t end, int from, int d
         std::size_t next = first + 1;
         while (next < end && m_entries[next].key == m_entries[first].key)
             ++next;
-        // A narrow key tells where its text ends: such texts are equal as a whole. A wide one can't tell the
-        // end from U+0000, so its texts are compared from the start of the packed units.
-        const bool whole = narrow && m_entries[first].text->size() <= start + narrowUnits;
+        // A narrow key tells where its text ends within it: such texts are equal as a whole. A wide one can't
+        // tell the end from U+0000, so its texts are compared from the start of the packed units.
+        const bool whole = narrow && m_entries[first].text->size() < start + narrowUnits;
         if (next - first > 1 && !whole) {
             const bool beyond = !narrow && m_entries[first].text->size() <= start + wideUnits;
             sortRange(first, next, beyond ? start : start + (narrow ? narrowUnits : wideUnits), depth + 1);

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QVector>
+
+#include <functional>
+#include <limits>
+#include <memory>
+
+/// What one row of the table measures, and how far it has to reach.
+///
+/// Shape: ours, the peer and the limit are the same work on the same data. The peer is what a user would
+///        write with the toolkit alone; the limit is the bare work, or our own rate under easier conditions.
+struct ZrBenchRow
+{
+    static constexpr double None = std::numeric_limits<double>::quiet_NaN();
+
+    QString name; // "family/what"
+    QString unit; // a rate when higherIsBetter, else a time or a size
+    bool higherIsBetter = false;
+    QString peerName;
+    QString limitName;
+    double peerReach = None;  // bound of ours / peer: the least when higher is better, else the most
+    double limitReach = None; // the same of ours / limit
+};
+
+/// The three sides of a row. Each call is one repetition and gives one value in the row's unit; it does its
+/// own preparation outside the part that it times. Sides may share state: a row is measured by one thread,
+/// one side at a time. An empty function means that there is no such side.
+struct ZrBenchSides
+{
+    std::function<double()> ours;
+    std::function<double()> peer;
+    std::function<double()> limit;
+};
+
+/// A row with the way to measure it. `make` prepares the sides; what they hold is freed with them.
+struct ZrBenchCase
+{
+    ZrBenchRow row;
+    std::function<ZrBenchSides()> make;
+};
+
+/// A measured row: medians, NaN where there is no such side.
+struct ZrBenchResult
+{
+    ZrBenchRow row;
+    double ours = ZrBenchRow::None;
+    double peer = ZrBenchRow::None;
+    double limit = ZrBenchRow::None;
+
+    bool reachesPeer() const;
+    bool reachesLimit() const;
+};
+
+/// Runs `repetitions` rounds of ours, peer, limit, so that what happens on the machine meanwhile falls on all
+/// three.
+ZrBenchResult runBench(const ZrBenchCase &benchCase, int repetitions);
+
+double medianOf(QVector<double> values);
+
+/// Seconds that `work` takes.
+double secondsOf(const std::function<void()> &work);
+
+using ZrBenchCases = QVector<ZrBenchCase>;
+ZrBenchCases gridUpdateBenches();
+ZrBenchCases gridAppendBenches();
+ZrBenchCases gridSortFilterBenches();
+ZrBenchCases gridPaintBenches();
+ZrBenchCases gridMemoryBenches();
+ZrBenchCases mapBenches();
+ZrBenchCases busBenches();

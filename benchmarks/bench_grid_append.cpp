@@ -1,0 +1,123 @@
+// Filling the grid, and appending to a full one.
+#include "ZrBench.h"
+#include "ZrBenchGrids.h"
+#include "ZrBenchLazy.h"
+#include "ZrTableView.h"
+
+namespace {
+constexpr int OurAppends = 20000;
+constexpr int PeerAppends = 200; // each moves all rows of the standard model
+const char *const PeerName = "QStandardItemModel, QHash, QTableView";
+
+class OurAppender
+{
+public:
+    explicit OurAppender(int maximum)
+        : m_records(ZrBenchData().records(ZrBenchData::Rows))
+    {
+        m_grid.view()->setMaxRowCount(maximum);
+    }
+
+    double ratePerSecond()
+    {
+        m_grid.load(m_records);
+        ZrBenchPacer::drain();
+        RecordDataList fresh;
+        for (int i = 0; i < OurAppends; ++i)
+            fresh.append(m_data.record(m_next++));
+        return OurAppends / secondsOf([&] {
+                   ZrBenchPacer pacer;
+                   for (const RecordData &record : fresh) {
+                       m_grid.view()->addRecordData(record);
+                       pacer.tick();
+                   }
+                   ZrBenchPacer::drain();
+               });
+    }
+
+private:
+    ZrBenchOurGrid m_grid;
+    RecordDataList m_records;
+    ZrBenchData m_data{11};
+    int m_next = ZrBenchData::Rows;
+};
+
+QVector<ZrBenchCells> peerRows(int count)
+{
+    ZrBenchData data;
+    QVector<ZrBenchCells> rows;
+    rows.reserve(count);
+    for (int row = 0; row < count; ++row)
+        rows.append(data.row(row));
+    return rows;
+}
+
+class PeerAppender
+{
+public:
+    PeerAppender()
+        : m_grid(false)
+    {
+        m_grid.load(peerRows(ZrBenchData::Rows));
+        ZrBenchPacer::drain();
+    }
+
+    double ratePerSecond()
+    {
+        QVector<ZrBenchCells> fresh;
+        for (int i = 0; i < PeerAppends; ++i)
+            fresh.append(m_data.row(m_next++));
+        return PeerAppends / secondsOf([&] {
+                   ZrBenchPacer pacer;
+                   for (const ZrBenchCells &cells : fresh) {
+                       m_grid.appendAndDropFirst(cells);
+                       pacer.tick();
+                   }
+                   ZrBenchPacer::drain();
+               });
+    }
+
+private:
+    ZrBenchPeerGrid m_grid;
+    ZrBenchData m_data{11};
+    int m_next = ZrBenchData::Rows;
+};
+
+ZrBenchSides appendSides()
+{
+    const auto full = std::make_shared<OurAppender>(ZrBenchData::Rows);
+    const auto roomy = std::make_shared<OurAppender>(10 * ZrBenchData::Rows);
+    const auto peer = std::make_shared<PeerAppender>();
+    return {[=] { return full->ratePerSecond(); }, [=] { return peer->ratePerSecond(); },
+            [=] { return roomy->ratePerSecond(); }};
+}
+
+// From the rows at hand to the rows on the screen, in ms.
+ZrBenchSides loadSides()
+{
+    const auto records = std::make_shared<RecordDataList>(ZrBenchData().records(ZrBenchData::Rows));
+    const auto rows = std::make_shared<QVector<ZrBenchCells>>(peerRows(ZrBenchData::Rows));
+    return {[=] {
+                ZrBenchOurGrid grid;
+                return 1000 * secondsOf([&] {
+                           grid.load(*records);
+                           ZrBenchPacer::drain();
+                       });
+            },
+            [=] {
+                ZrBenchPeerGrid grid(false);
+                return 1000 * secondsOf([&] {
+                           grid.load(*rows);
+                           ZrBenchPacer::drain();
+                       });
+            },
+            {}};
+}
+} // namespace
+
+ZrBenchCases gridAppendBenches()
+{
+    return {
+        {{"grid/append_at_cap", "rows/s", true, PeerName, "ours below the row limit", 100, 0.5}, appendSides},
+        {{"grid/load", "ms", false, PeerName, {}, 0.5, ZrBenchRow::None}, loadSides}};
+}

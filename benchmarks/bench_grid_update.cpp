@@ -1,0 +1,202 @@
+// Updates of a live grid: one by one, in batches, in filter mode, with a summary line and with check boxes.
+#include "ZrBench.h"
+#include "ZrBenchGrids.h"
+#include "ZrBenchLazy.h"
+#include "ZrTableView.h"
+
+namespace {
+constexpr int UpdatesPerRound = 20000;
+constexpr int BatchSize = 1000;
+constexpr int SmallRows = 10000;
+const char *const Unit = "rows/s";
+const char *const PeerName = "QStandardItemModel, QHash, QTableView";
+const char *const ProxyName = "the same under QSortFilterProxyModel";
+
+// Our grid with so many rows, and the updates it gets.
+class OurUpdates
+{
+public:
+    explicit OurUpdates(int rows)
+        : m_rows(rows)
+    {
+        ZrBenchData data;
+        grid.load(data.records(rows));
+        ZrBenchPacer::drain();
+    }
+
+    double ratePerSecond(bool priceToo = false)
+    {
+        const RecordDataList updates = nextUpdates(priceToo);
+        return updates.size() / secondsOf([&] {
+                   ZrBenchPacer pacer;
+                   for (const RecordData &update : updates) {
+                       grid.view()->updataRecordData(update);
+                       pacer.tick();
+                   }
+                   ZrBenchPacer::drain();
+               });
+    }
+
+    double batchRatePerSecond()
+    {
+        const RecordDataList updates = nextUpdates(false);
+        QVector<RecordDataList> batches;
+        for (int first = 0; first < updates.size(); first += BatchSize)
+            batches.append(updates.mid(first, BatchSize));
+        return updates.size() / secondsOf([&] {
+                   ZrBenchPacer pacer;
+                   for (const RecordDataList &batch : batches) {
+                       grid.view()->updataRecordDatas(batch);
+                       pacer.tick();
+                   }
+                   ZrBenchPacer::drain();
+               });
+    }
+
+    ZrBenchOurGrid grid;
+
+private:
+    RecordDataList nextUpdates(bool priceToo)
+    {
+        RecordDataList records;
+        records.reserve(UpdatesPerRound);
+        for (const ZrBenchUpdate &update : m_data.updates(UpdatesPerRound, m_rows, priceToo))
+            records.append(ZrBenchData::toRecord(update));
+        return records;
+    }
+    ZrBenchData m_data{7};
+    int m_rows;
+};
+
+class PeerUpdates
+{
+public:
+    PeerUpdates(int rows, bool withProxy)
+        : grid(withProxy)
+        , m_rows(rows)
+    {
+        ZrBenchData data;
+        QVector<ZrBenchCells> cells;
+        cells.reserve(rows);
+        for (int row = 0; row < rows; ++row)
+            cells.append(data.row(row));
+        grid.load(cells);
+        ZrBenchPacer::drain();
+    }
+
+    double ratePerSecond(bool priceToo = false)
+    {
+        const QVector<ZrBenchUpdate> updates = m_data.updates(UpdatesPerRound, m_rows, priceToo);
+        return updates.size() / secondsOf([&] {
+                   ZrBenchPacer pacer;
+                   for (const ZrBenchUpdate &update : updates) {
+                       grid.apply(update);
+                       pacer.tick();
+                   }
+                   ZrBenchPacer::drain();
+               });
+    }
+
+    ZrBenchPeerGrid grid;
+
+private:
+    ZrBenchData m_data{7};
+    int m_rows;
+};
+
+using OurMaker = std::function<std::shared_ptr<OurUpdates>()>;
+using PeerMaker = std::function<std::shared_ptr<PeerUpdates>()>;
+
+OurMaker ourMaker(int rows, const std::function<void(OurUpdates &)> &setUp = {})
+{
+    return zrLazily<OurUpdates>([rows, setUp] {
+        auto fixture = std::make_shared<OurUpdates>(rows);
+        if (setUp)
+            setUp(*fixture);
+        ZrBenchPacer::drain();
+        return fixture;
+    });
+}
+
+PeerMaker filteredPeerMaker(int rows)
+{
+    return zrLazily<PeerUpdates>([rows] {
+        auto fixture = std::make_shared<PeerUpdates>(rows, true);
+        fixture->grid.proxy()->setBounds(0, ZrBenchData::MostPrice / 10);
+        ZrBenchPacer::drain();
+        return fixture;
+    });
+}
+
+// Ours against our own rate of single updates of a plain grid of the same size.
+ZrBenchCase besidePlain(const QString &name, const OurMaker &fixture, const OurMaker &plain)
+{
+    const ZrBenchRow row = {name, Unit, true, {}, "grid/update_single", ZrBenchRow::None, 0.6};
+    return {row, [=] {
+                const auto ours = fixture();
+                const auto limit = plain();
+                return ZrBenchSides{
+                    [=] { return ours->ratePerSecond(); }, {}, [=] { return limit->ratePerSecond(); }};
+            }};
+}
+
+ZrBenchCase filtered(const QString &name, const OurMaker &fixture, const OurMaker &plain,
+                     const PeerMaker &proxy)
+{
+    const ZrBenchRow row = {
+        name, Unit, true, ProxyName, "grid/update_single of so many rows", ZrBenchRow::None, 0.6};
+    return {row, [=] {
+                const auto ours = fixture();
+                const auto peer = proxy();
+                const auto limit = plain();
+                return ZrBenchSides{[=] { return ours->ratePerSecond(true); },
+                                    [=] { return peer->ratePerSecond(true); },
+                                    [=] { return limit->ratePerSecond(true); }};
+            }};
+}
+} // namespace
+
+ZrBenchCases gridUpdateBenches()
+{
+    const OurMaker plain = ourMaker(ZrBenchData::Rows);
+    const OurMaker plainSmall = ourMaker(SmallRows);
+    const auto filter = [](OurUpdates &updates) { updates.grid.filterTenth(); };
+    const OurMaker filteredLarge = ourMaker(ZrBenchData::Rows, filter);
+    const OurMaker filteredSmall = ourMaker(SmallRows, filter);
+    const OurMaker summed = ourMaker(
+        ZrBenchData::Rows, [](OurUpdates &updates) { updates.grid.view()->setSummaryLineEnable(true); });
+    const OurMaker checked =
+        ourMaker(ZrBenchData::Rows, [](OurUpdates &updates) { updates.grid.view()->setCheckBoxShow(true); });
+    const PeerMaker peer =
+        zrLazily<PeerUpdates>([] { return std::make_shared<PeerUpdates>(ZrBenchData::Rows, false); });
+
+    const ZrBenchCase single = {{"grid/update_single", Unit, true, PeerName, {}, 1.3, ZrBenchRow::None}, [=] {
+                                    const auto ours = plain();
+                                    const auto other = peer();
+                                    return ZrBenchSides{[=] { return ours->ratePerSecond(); },
+                                                        [=] { return other->ratePerSecond(); },
+                                                        {}};
+                                }};
+    const ZrBenchCase batch = {
+        {"grid/update_batch1000", Unit, true, PeerName, {}, 1.3, ZrBenchRow::None}, [=] {
+            const auto ours = plain();
+            const auto other = peer();
+            return ZrBenchSides{
+                [=] { return ours->batchRatePerSecond(); }, [=] { return other->ratePerSecond(); }, {}};
+        }};
+    const ZrBenchCase sizes = {
+        {"grid/update_filtered_size", Unit, true, {}, "the same at 10,000 rows", ZrBenchRow::None, 1 / 1.5},
+        [=] {
+            const auto large = filteredLarge();
+            const auto small = filteredSmall();
+            return ZrBenchSides{
+                [=] { return large->ratePerSecond(true); }, {}, [=] { return small->ratePerSecond(true); }};
+        }};
+    return {single,
+            batch,
+            filtered("grid/update_filtered", filteredLarge, plain, filteredPeerMaker(ZrBenchData::Rows)),
+            filtered("grid/update_filtered_10k", filteredSmall, plainSmall, filteredPeerMaker(SmallRows)),
+            sizes,
+            besidePlain("grid/update_with_summary", summed, plain),
+            besidePlain("grid/update_with_checks", checked, plain)};
+}

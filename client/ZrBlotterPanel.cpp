@@ -1,0 +1,198 @@
+#include "ZrBlotterPanel.h"
+
+#include "FreezeTableView.h"
+#include "ZrParseTableColsCfg.h"
+#include "ZrTablePropertySet.h"
+#include "ZrTableView.h"
+
+#include "feed/ZrFeedClock.h"
+#include "ZrClientFields.h"
+#include "ZrColumnTexts.h"
+
+#include "zrcore/ZrCore.h"
+#include "zrdefine/VexlorFields.h"
+#include "zrdefine/VexlorValues.h"
+
+#include <QtWidgets/QVBoxLayout>
+
+namespace {
+const QString foregroundRole = QString::number(Qt::ForegroundRole);
+const QString rawRole = QString::number(Qt::UserRole);
+
+bool isSummable(const ZrFieldSetting &field)
+{
+    const QStringList summed = {ZrClientFields::orderQty,     ZrClientFields::orderValue,
+                                ZrClientFields::cumQty,       ZrClientFields::leavesQty,
+                                ZrClientFields::cancelledQty, ZrClientFields::filledValue,
+                                ZrClientFields::fillCount};
+    return summed.contains(field.fieldNumber);
+}
+
+QVariantMap equals(const QString &value)
+{
+    return {{Vexlor_Fields::Infomation::compareOperator, Vexlor_Values::CompareOperator::equal},
+            {Vexlor_Fields::Infomation::logicOperator, Vexlor_Values::LogicOperator::andOperator},
+            {Vexlor_Fields::System::filterValue, value},
+            {Vexlor_Fields::Infomation::fieldComment, QString()}};
+}
+} // namespace
+
+ZrBlotterPanel::ZrBlotterPanel(const QString &columnFile, QWidget *parent)
+    : QWidget(parent)
+    , m_view(new ZrTableView(this))
+{
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_view);
+    m_grid = translated(ZrParseTableColsCfg::parseGridConfigure(columnFile));
+    m_sideColumn = columnOf(ZrClientFields::side);
+    m_statusColumn = columnOf(ZrClientFields::orderStatus);
+    applyColumns();
+    m_view->SetAlternatingRowColors(true);
+    m_view->setItemGridShow(true);
+    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_view->setHeadSectionMovable(true);
+    setFollowing(true);
+    // The skin's sheet reaches the grid before this signal: its colours are already the new ones.
+    connect(ZrCore::instance(), &ZrCore::signalSkinChanged, this, &ZrBlotterPanel::recolour);
+}
+
+ZrGridSetting ZrBlotterPanel::translated(const ZrGridSetting &grid) const
+{
+    ZrGridSetting result;
+    const QList<ZrFieldSetting> fields = grid.getFieldSetList();
+    for (ZrFieldSetting field : fields) {
+        field.titleName = ZrColumnTexts::title(field.titleName);
+        result.addFieldSetting(field);
+    }
+    return result;
+}
+
+int ZrBlotterPanel::columnOf(const QString &field) const
+{
+    const QList<ZrFieldSetting> fields = m_grid.getFieldSetList();
+    for (const ZrFieldSetting &setting : fields) {
+        if (setting.fieldNumber == field)
+            return setting.index;
+    }
+    return -1;
+}
+
+void ZrBlotterPanel::applyColumns()
+{
+    ZrTablePropertySet::setTableViewProperty(m_grid, m_view);
+    const QList<ZrFieldSetting> fields = m_grid.getFieldSetList();
+    // The mapping writes no bands: the blotter adds them to the heads that it made.
+    HeadList heads = m_view->getHeadList();
+    for (int i = 0; i < heads.size() && i < fields.size(); ++i) {
+        heads[i].insert(QStringLiteral("Head_GroupId"), fields.at(i).userRoleProperty);
+        heads[i].insert(QStringLiteral("Head_GroupName"), ZrColumnTexts::band(fields.at(i).userRoleProperty));
+    }
+    m_view->setHeadList(heads);
+    for (const ZrFieldSetting &field : fields)
+        m_view->setColumnWidth(field.index, field.columnWidth);
+}
+
+QList<int> ZrBlotterPanel::columnsWithoutSum() const
+{
+    QList<int> result;
+    const QList<ZrFieldSetting> fields = m_grid.getFieldSetList();
+    for (const ZrFieldSetting &field : fields) {
+        if (!isSummable(field))
+            result.append(field.index);
+    }
+    return result;
+}
+
+void ZrBlotterPanel::setSummaryShown(bool shown)
+{
+    m_view->setSummaryLineEnable(shown, columnsWithoutSum());
+}
+
+void ZrBlotterPanel::setFollowing(bool following)
+{
+    m_view->setAlwaysDisplayLatest(following);
+    if (following)
+        m_view->getTableView()->scrollToBottom();
+}
+
+void ZrBlotterPanel::setOpenOnly(bool openOnly)
+{
+    ViewFilterList filters;
+    if (openOnly && m_statusColumn >= 0)
+        filters.insert(m_statusColumn, {{equals(QStringLiteral("0"))}, {equals(QStringLiteral("1"))}});
+    m_view->resetViewCurrentFilterList(filters);
+}
+
+void ZrBlotterPanel::colourRow(const QVariantMap &message, RecordData *row) const
+{
+    // Buyers' colour is that of rising prices.
+    const QString side = message.value(ZrClientFields::side).toString();
+    const QColor colour = side == QLatin1String("1") ? m_view->upColor() : m_view->downColor();
+    if (m_sideColumn >= 0 && colour.isValid() && !side.isEmpty())
+        (*row)[m_sideColumn].insert(foregroundRole, colour);
+}
+
+// Rows keep the colours they were given: those of the new skin have to be given to all of them.
+void ZrBlotterPanel::recolour()
+{
+    RecordDataList changes;
+    const RecordDataList rows = m_view->getViewData();
+    for (const RecordData &row : rows) {
+        RecordData change;
+        for (const int column : m_view->getKeyColumn())
+            change.insert(column, row.value(column));
+        colourRow({{ZrClientFields::side, row.value(m_sideColumn).value(rawRole)}}, &change);
+        changes.append(change);
+    }
+    m_view->updataRecordDatas(changes);
+}
+
+void ZrBlotterPanel::applyMessages(const std::vector<ZrInboxMessage> &messages)
+{
+    RecordDataList rows;
+    rows.reserve(int(messages.size()));
+    for (const ZrInboxMessage &message : messages) {
+        RecordData row;
+        ZrTablePropertySet::setTableSingleRecordData(m_grid, message.record, row);
+        colourRow(message.record, &row);
+        rows.append(row);
+    }
+    m_view->addRecordDataList(rows);
+    m_updates += rows.size();
+    noteTimes(messages, rows);
+}
+
+void ZrBlotterPanel::noteTimes(const std::vector<ZrInboxMessage> &messages, const RecordDataList &rows)
+{
+    const qint64 nowNs = ZrSteadyClock::steadyNs();
+    const QTableView *const table = m_view->getTableView();
+    const int first = table->rowAt(0);
+    const int last = table->rowAt(table->viewport()->height() - 1);
+    for (int i = 0; i < rows.size(); ++i) {
+        const qint64 sentNs = messages[size_t(i)].record.value(ZrClientFields::sentNs).toLongLong();
+        m_toModel.add(nowNs - sentNs);
+        // Only a row in sight is shown by the next frame; no row at the bottom edge means all fit.
+        const int row = m_view->getRowByKey(ZrTablePropertySet::getRecordKeyString(m_grid, rows.at(i)));
+        if (row >= 0 && row >= first && (last < 0 || row <= last))
+            m_unshownNs.push_back(sentNs);
+    }
+}
+
+void ZrBlotterPanel::frameShown()
+{
+    const qint64 nowNs = ZrSteadyClock::steadyNs();
+    ++m_frames;
+    for (const qint64 sentNs : m_unshownNs) {
+        m_toPixel.add(nowNs - sentNs);
+        m_recent.add(nowNs - sentNs);
+    }
+    m_unshownNs.clear();
+}
+
+ZrLatencyMeter ZrBlotterPanel::takeRecentToPixel()
+{
+    const ZrLatencyMeter result = m_recent;
+    m_recent.clear();
+    return result;
+}

@@ -1,0 +1,77 @@
+#include "ZrBlotterPresenter.h"
+
+#include "ZrClientFields.h"
+#include "ZrMessageInbox.h"
+
+#include "zrdefine/VexlorMsgType.h"
+#include "zrmsg/CUnPackMessageCommon.h"
+
+namespace {
+constexpr qint64 MostNumbers = Q_INT64_C(2000000000); // a quarter of a gigabyte of marks
+
+QStringList messageTypes()
+{
+    return {ZrClientMsgType::order, Vexlor_MsgType::executionReport, ZrClientMsgType::trade,
+            ZrClientMsgType::depth};
+}
+} // namespace
+
+ZrBlotterPresenter::ZrBlotterPresenter(const QString &pluginPid, ZrMessageInbox *inbox)
+    : ZrPresenterClass(pluginPid, nullptr, IMessageInterface::PresenterAndReceiverThread)
+    , m_inbox(inbox)
+{
+}
+
+void ZrBlotterPresenter::open()
+{
+    const QStringList types = messageTypes();
+    for (const QString &type : types)
+        Sub(pluginPid(), type, 1);
+}
+
+void ZrBlotterPresenter::detach()
+{
+    const QStringList types = messageTypes();
+    for (const QString &type : types)
+        Sub(pluginPid(), type, 2);
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_inbox = nullptr;
+    m_seen = nullptr;
+}
+
+void ZrBlotterPresenter::setSeenCall(const std::function<void(qint64)> &seen)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_seen = seen;
+}
+
+void ZrBlotterPresenter::count(qint64 number)
+{
+    ++m_received;
+    if (number < 0 || number >= MostNumbers)
+        return;
+    if (size_t(number) >= m_numbers.size())
+        m_numbers.resize(size_t(number) + size_t(number) / 2 + 1024);
+    if (!m_numbers[size_t(number)])
+        ++m_distinct;
+    m_numbers[size_t(number)] = true;
+}
+
+void ZrBlotterPresenter::ProcMsg(QString pid, QVariant msgType, QVariant msg)
+{
+    Q_UNUSED(pid)
+    CUnPackMessageCommon reader;
+    reader.SetUnPackMsg(msg, false);
+    const QString type = msgType.toString();
+    const bool isOrder = type == ZrClientMsgType::order || type == Vexlor_MsgType::executionReport;
+    const QList<QVariantMap> records = reader.GetAllValue();
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    for (const QVariantMap &record : records) {
+        const qint64 number = record.value(ZrClientFields::seqNo, -1).toLongLong();
+        count(number);
+        if (m_inbox && isOrder)
+            m_inbox->put({type, record});
+        if (m_seen)
+            m_seen(number);
+    }
+}

@@ -1,0 +1,23 @@
+#include "ZrLanguage.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QLibraryInfo>
+#include <QtCore/QLocale>
+#include <QtCore/QTranslator>
+
+void ZrLanguage::install(QCoreApplication *app, const QString &language)
+{
+    if (!language.isEmpty())
+        QLocale::setDefault(QLocale(language));
+    const QLocale locale;
+    const auto load = [app, &locale](const QString &name, const QString &folder) {
+        auto *const translator = new QTranslator(app);
+        if (translator->load(locale, name, QStringLiteral("_"), folder))
+            QCoreApplication::installTranslator(translator);
+        else
+            delete translator;
+    };
+    load(QStringLiteral("qtbase"), QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    load(QStringLiteral("zrwidget"), QStringLiteral(":/client/i18n"));
+    load(QStringLiteral("client"), QStringLiteral(":/client/i18n"));
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "zrskin/IZrSkin.h"
+
+#include <QtWidgets/QMainWindow>
+
+class ZrBlotterPanel;
+class ZrBlotterToolBar;
+class ZrStatusLine;
+
+/// The workstation's window: docks, tool bar, status bar.
+///
+/// Ownership: normal QWidget parent rules.
+/// Threads:   GUI thread only.
+class ZrMainWindow : public QMainWindow, public IZrSkin
+{
+    Q_OBJECT
+    Q_INTERFACES(IZrSkin)
+public:
+    ZrMainWindow(const QStringList &skins, const QString &skin, int maxRows);
+
+    void loadSkin(const QVariant &css) override;
+    ZrBlotterPanel *blotter() const { return m_blotter; }
+    ZrBlotterToolBar *toolBar() const { return m_toolBar; }
+    ZrStatusLine *statusLine() const { return m_status; }
+
+signals:
+    void signalSkinChosen(const QString &skin);
+    void signalClosed();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    ZrBlotterPanel *m_blotter;
+    ZrBlotterToolBar *m_toolBar;
+    ZrStatusLine *m_status;
+};

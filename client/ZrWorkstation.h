@@ -1,0 +1,85 @@
+#pragma once
+
+#include "ZrRunReport.h"
+#include "ZrWorkstationOptions.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QObject>
+#include <QtCore/QTimer>
+
+#include <memory>
+
+class ZrBlotterPresenter;
+class ZrClientApplication;
+class ZrFeedPlayer;
+class ZrMainWindow;
+class ZrMessageInbox;
+class ZrRecordingTee;
+class ZrReferenceHost;
+class ZrSteadyClock;
+struct ZrInboxMessage;
+
+/// Where the workstation finds its files.
+struct ZrWorkstationPaths
+{
+    QString skins;
+    QStringList recordings;
+    QString config; // empty: the user's own folder
+};
+
+/// One run of the workstation: host, feed, bus, window, and what it came to.
+///
+/// Shape:     start() once, then the event loop until signalDone, then finish() once.
+/// Ownership: owns everything but the application.
+/// Threads:   GUI thread; the feed plays on a thread of its own and is received on one of the bus's.
+/// Errors:    start() and finish() give one sentence or nothing.
+class ZrWorkstation : public QObject
+{
+    Q_OBJECT
+public:
+    ZrWorkstation(const ZrWorkstationOptions &options, const ZrWorkstationPaths &paths,
+                  ZrClientApplication *app);
+    ~ZrWorkstation() override;
+
+    QString start();
+    /// Ends feed and bus, takes in what is still under way, writes pictures and report.
+    QString finish();
+
+    ZrMainWindow *window() const { return m_window.get(); }
+    const ZrRunReport &report() const { return m_report; }
+    /// Lines of the recording that were left out, for people; empty when there were none.
+    QString problems() const { return m_problems; }
+
+signals:
+    void signalDone();
+
+private:
+    QString startHost();
+    QString makeFeed();
+    void makeWindow();
+    void connectBus();
+    void startFeed();
+    void takeBatch(const std::vector<ZrInboxMessage> &messages);
+    void refreshStatus();
+    void drain();
+    void fillReport();
+    QString writeFiles();
+
+    const ZrWorkstationOptions m_options;
+    const ZrWorkstationPaths m_paths;
+    ZrClientApplication *const m_app; // not owned
+    std::unique_ptr<ZrReferenceHost> m_host;
+    std::unique_ptr<ZrMainWindow> m_window;
+    std::unique_ptr<ZrMessageInbox> m_inbox;
+    std::unique_ptr<ZrSteadyClock> m_clock;
+    std::unique_ptr<ZrFeedPlayer> m_player;    // after what its thread uses: it goes first
+    ZrRecordingTee *m_tee = nullptr;           // the player's, null without --record
+    ZrBlotterPresenter *m_presenter = nullptr; // goes by its own deleteLater
+    QTimer m_status;
+    QTimer m_end;
+    QElapsedTimer m_running;
+    QElapsedTimer m_sinceStatus;
+    qint64 m_receivedAtStatus = 0;
+    QString m_problems;
+    ZrRunReport m_report;
+};

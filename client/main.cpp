@@ -1,0 +1,96 @@
+#include "ZrClientApplication.h"
+#include "ZrLanguage.h"
+#include "ZrWorkstation.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QLoggingCategory>
+
+#include <cstdio>
+
+namespace {
+constexpr int BadInput = 2;
+constexpr int BadOutput = 1;
+
+void complain(const QString &sentence)
+{
+    std::fprintf(stderr, "zrworkstation: %s\n", qPrintable(sentence));
+}
+
+// Without a display there is nothing to show on: the toolkit would end the program.
+void chooseDisplay(bool headless)
+{
+    const bool hasDisplay =
+        !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    if (headless || (!hasDisplay && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+// Files lie beside an installed program, or in the sources of a built one.
+QString firstFolder(const QStringList &folders)
+{
+    for (const QString &folder : folders) {
+        if (QDir(folder).exists())
+            return QDir::cleanPath(folder);
+    }
+    return QString();
+}
+
+ZrWorkstationPaths findPaths()
+{
+    const QString shared = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/zrwidget");
+    ZrWorkstationPaths paths;
+    paths.skins = firstFolder({shared + QStringLiteral("/skin"), QStringLiteral(ZR_SOURCE_DIR "/skin")});
+    paths.recordings = QStringList{firstFolder(
+        {shared + QStringLiteral("/recordings"), QStringLiteral(ZR_SOURCE_DIR "/client/recordings")})};
+    return paths;
+}
+
+int run(const ZrWorkstationOptions &options, ZrClientApplication *app)
+{
+    ZrWorkstation workstation(options, findPaths(), app);
+    QString error = workstation.start();
+    if (!error.isEmpty()) {
+        complain(error);
+        return BadInput;
+    }
+    // Queued: a window may close, or a feed end, before the event loop has begun.
+    QObject::connect(&workstation, &ZrWorkstation::signalDone, app, &QCoreApplication::quit,
+                     Qt::QueuedConnection);
+    QCoreApplication::exec();
+    error = workstation.finish();
+    if (!workstation.problems().isEmpty())
+        complain(QStringLiteral("%1 lines of the recording were skipped:\n%2")
+                     .arg(workstation.report().linesSkipped)
+                     .arg(workstation.problems()));
+    if (!error.isEmpty())
+        complain(error);
+    return error.isEmpty() ? 0 : BadOutput;
+}
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    ZrWorkstationOptions options;
+    QString error;
+    if (!ZrWorkstationOptions::parse(arguments, &options, &error)) {
+        complain(error);
+        return BadInput;
+    }
+    chooseDisplay(options.headless || options.help);
+    // A presenter logs each message that it sorts: far too many for a live feed, unless somebody asks.
+    if (!qEnvironmentVariableIsSet("QT_LOGGING_RULES"))
+        QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    ZrClientApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("zrworkstation"));
+    if (options.help) {
+        std::fputs(qPrintable(ZrWorkstationOptions::helpText()), stdout);
+        return 0;
+    }
+    ZrLanguage::install(&app, options.language);
+    options.headless = QGuiApplication::platformName() == QLatin1String("offscreen");
+    return run(options, &app);
+}

@@ -1,0 +1,185 @@
+#include "ZrTableUpdates.h"
+
+#include "ZrRoleKeys.h"
+#include "ZrTableMerge.h"
+#include "ZrTableModel_p.h"
+#include "ZrTableRows.h"
+#include "ZrTableSignalScope.h"
+
+#include <QtCore/QDebug>
+#include <QtCore/QSet>
+
+#include <algorithm>
+
+ZrTableUpdates::ZrTableUpdates(ZrTableModelPrivate &fields)
+    : m_fields(fields)
+{
+}
+
+ZrTableUpdates::Change ZrTableUpdates::merge(const RecordData &record)
+{
+    Change change;
+    ZrTableRows &rows = m_fields.rows();
+    if (!rows.hasKeys())
+        return change;
+    change.key = m_fields.makeKey(record);
+    const int row = m_fields.keyToRow.row(change.key);
+    if (row < 0 || row >= m_fields.modelData.size())
+        return change;
+    const bool isCounted = rows.countsFollow() && rows.isShown(row, change.key);
+    if (!rows.countsFollow())
+        rows.forgetCounts();
+    RecordData &stored = m_fields.modelData[row];
+    const bool wasChecked = ZrTableCheckCounter::isChecked(stored);
+    ZrTableSums *sums = isCounted && m_fields.sums.isActive() ? &m_fields.sums : nullptr;
+    change.columns = ZrTableMerge::merge(stored, record, sums);
+    if (change.columns.isEmpty())
+        return change;
+    change.row = row;
+    if (isCounted)
+        m_fields.checkCounter.changed(wasChecked, ZrTableCheckCounter::isChecked(stored));
+    const auto isKey = [this](int column) { return m_fields.keyColumns.contains(column); };
+    if (std::any_of(change.columns.cbegin(), change.columns.cend(), isKey) &&
+        m_fields.makeKey(stored) != change.key)
+        rows.keyChanged(row, change.key);
+    rows.learnTypes(record);
+    if (m_fields.filterable) {
+        const ZrTableDisplayList &display = m_fields.displayKeyList;
+        change.position = display.isOrdered() ? display.positionOf(row) : display.indexOf(change.key);
+        change.isMatch = rows.wouldShow(stored, change.key);
+    }
+    return change;
+}
+
+void ZrTableUpdates::update(const RecordData &record)
+{
+    const Change change = merge(record);
+    if (change.row < 0)
+        return;
+    if (m_fields.filterable)
+        tellFiltered(change, record);
+    else
+        tellCells(change.row, change.columns, record);
+}
+
+void ZrTableUpdates::tellCells(int row, QList<int> columns, const RecordData &record)
+{
+    m_fields.model->updateData(row, columns);
+    if (m_fields.checkBoxShown && record.contains(ZrRowStateColumn))
+        m_fields.updateHeadCheckState();
+}
+
+void ZrTableUpdates::tellFiltered(const Change &change, const RecordData &record)
+{
+    const bool wasShown = change.position >= 0;
+    if (wasShown && change.isMatch) {
+        tellCells(change.position, change.columns, record);
+        return;
+    }
+    if (!wasShown && !change.isMatch)
+        return;
+    const ZrTableSignalScope scope(m_fields, false);
+    if (wasShown) {
+        m_fields.beginRemove(change.position, change.position);
+        leave(change);
+        m_fields.endRemove();
+    } else {
+        const int position = positionForKey(change.row);
+        m_fields.beginInsert(position, position);
+        enter(change);
+        m_fields.endInsert();
+    }
+    if (m_fields.checkBoxShown)
+        m_fields.updateHeadCheckState();
+}
+
+void ZrTableUpdates::leave(const Change &change)
+{
+    ZrTableDisplayList &display = m_fields.displayKeyList;
+    if (display.isOrdered()) {
+        m_fields.rows().countOut(m_fields.modelData.at(change.row));
+        display.setShown(change.row, false);
+    } else {
+        display.removeAt(change.position);
+    }
+}
+
+void ZrTableUpdates::enter(const Change &change)
+{
+    ZrTableDisplayList &display = m_fields.displayKeyList;
+    if (display.isOrdered()) {
+        m_fields.rows().countIn(m_fields.modelData.at(change.row));
+        display.setShown(change.row, true);
+    } else {
+        display.insertKey(positionForKey(change.row), change.key);
+    }
+}
+
+// In front of the next shown row in model order, so that the display list keeps that order.
+int ZrTableUpdates::positionForKey(int row) const
+{
+    const ZrTableDisplayList &display = m_fields.displayKeyList;
+    if (display.isOrdered())
+        return display.positionAt(row);
+    QHash<QString, int> positions;
+    for (int i = display.size() - 1; i >= 0; --i)
+        positions.insert(display.keyAt(i), i);
+    for (int next = row + 1; next < m_fields.modelData.size(); ++next) {
+        const auto found = positions.constFind(m_fields.makeKey(m_fields.modelData.at(next)));
+        if (found != positions.constEnd())
+            return *found;
+    }
+    return display.size();
+}
+
+void ZrTableUpdates::updateMany(const RecordDataList &records)
+{
+    bool isChanged = false;
+    const QString current = m_fields.currentRowKey();
+    for (const RecordData &record : records) {
+        const Change change = merge(record);
+        if (change.row < 0)
+            continue;
+        isChanged = true;
+        if (m_fields.filterable && change.position >= 0 && !change.isMatch)
+            leave(change);
+        else if (m_fields.filterable && change.position < 0 && change.isMatch)
+            enter(change);
+    }
+    if (!isChanged)
+        return;
+    m_fields.resetViewsKeeping(current);
+    if (m_fields.checkBoxShown)
+        m_fields.updateHeadCheckState();
+}
+
+void ZrTableUpdates::replaceAll(const RecordDataList &records)
+{
+    RecordDataList kept;
+    QSet<QString> seen;
+    for (const RecordData &record : records) {
+        if (m_fields.rows().hasKeys()) {
+            const QString key = m_fields.makeKey(record);
+            if (key.isEmpty() || seen.contains(key))
+                continue;
+            seen.insert(key);
+        }
+        m_fields.rows().learnTypes(record);
+        kept.append(record);
+    }
+    m_fields.rows().replaceAll(kept);
+    m_fields.indexWidgets.clear();
+    // The reset stands before the rebuild: required. In filter mode the views so first meet the old display
+    // list.
+    m_fields.resetViews();
+    m_fields.updateHeadCheckState();
+    m_fields.rows().rebuild();
+    if (m_fields.filterable) {
+        m_fields.correctHeadCheckState();
+        m_fields.settleViews();
+    }
+    const QObject *parent = m_fields.model->QObject::parent();
+    const QString grid = parent && parent->parent() ? parent->parent()->objectName() : QString();
+    qDebug() << "ZrTableModel::updateRecordDataList" << grid << " input record length " << records.size()
+             << " real record length " << kept.size();
+}

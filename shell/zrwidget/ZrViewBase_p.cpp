@@ -1,0 +1,6 @@
+#include "ZrViewBase_p.h"
+
+ZrViewBasePrivate::ZrViewBasePrivate(QObject *view)
+    : QObject(view)
+{
+}

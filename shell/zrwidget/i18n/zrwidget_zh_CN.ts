@@ -1,0 +1,45 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>ZrColumnFileGuard</name>
+    <message>
+        <source>the file is larger than %1 bytes</source>
+        <translation>文件超过 %1 字节</translation>
+    </message>
+    <message>
+        <source>the file isn't text in its encoding</source>
+        <translation>文件内容与其编码不符</translation>
+    </message>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>元素的属性超过 %1 个</translation>
+    </message>
+    <message>
+        <source>a document type isn't allowed</source>
+        <translation>不允许文档类型声明</translation>
+    </message>
+    <message>
+        <source>elements are nested more than %1 deep</source>
+        <translation>元素嵌套超过 %1 层</translation>
+    </message>
+    <message>
+        <source>the file has more than %1 nodes</source>
+        <translation>文件的节点超过 %1 个</translation>
+    </message>
+</context>
+<context>
+    <name>ZrPresenterClass</name>
+    <message>
+        <source>request timeout</source>
+        <translation>请求超时</translation>
+    </message>
+</context>
+<context>
+    <name>ZrTableView</name>
+    <message>
+        <source>Summary of %1</source>
+        <translation>%1合计</translation>
+    </message>
+</context>
+</TS>
