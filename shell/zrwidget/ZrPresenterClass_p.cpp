@@ -18,7 +18,7 @@
 
 namespace {
 constexpr int clockTickMs = 1000;
-constexpr int constructionMs = 100; // by then a derived constructor has long run
+constexpr int constructionMs = 1000; // by then a derived constructor has long run
 constexpr int typeRequestTimeout = 217088;
 constexpr int typePresenterEnd = 65550;
 } // namespace
@@ -125,10 +125,14 @@ int ZrPresenterClassPrivate::waitInLoop(const ZrRequestMessage &request, CMessag
     const ZrEventLoop::Pointer loop = ZrEventLoop::create();
     connect(this, &ZrPresenterClassPrivate::signalSyncResponse, loop.get(), &ZrEventLoop::slotReceiveResp);
     loop->msgType = request.msgType;
-    if (!openLoop(loop, request.clientMsgID))
+    if (!openLoop(loop, request.clientMsgID)) {
+        disconnect(this, nullptr, loop.get(), nullptr);
         return ZrRequestDestroying;
+    }
     Put(pluginPid, msg);
     loop->run();
+    // While this call still keeps us alive: the loop is deleted later, and would then ask a deleted sender.
+    disconnect(this, nullptr, loop.get(), nullptr);
     const int result = closeLoop(loop.get(), request.clientMsgID);
     *response = loop->response;
     return result;

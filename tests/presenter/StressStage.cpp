@@ -327,6 +327,7 @@ void StressStage::fill()
         m_slots[size_t(slot)].presenter = presenter;
         m_slots[size_t(slot)].isClosing = false;
         m_changed.wakeAll();
+        return; // one at a time: the event loop tells the presenter that its constructors have run
     }
 }
 

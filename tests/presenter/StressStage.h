@@ -109,7 +109,7 @@ public:
     explicit StressStage(StressLedger *ledger);
 
     StressLedger *ledger() const { return m_ledger; }
-    /// Fills empty slots. GUI thread.
+    /// Fills an empty slot, if there is one. GUI thread.
     void fill();
     /// Ends one presenter, in one of three ways by turns. GUI thread.
     void endOne();

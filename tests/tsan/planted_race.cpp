@@ -7,15 +7,21 @@
 #include <QtCore/QObject>
 #include <QtCore/QTimer>
 
+#include <atomic>
 #include <cstdio>
 
 namespace {
 int unguarded = 0; // two threads write it, and nothing orders them
+std::atomic<int> arrived{0};
 
+// They wait for each other without ordering anything: whatever the toolkit orders at a thread's begin and end
+// shall not hide the race.
 void countUp()
 {
-    for (int i = 0; i < 1000; ++i)
-        ++unguarded;
+    arrived.fetch_add(1, std::memory_order_relaxed);
+    while (arrived.load(std::memory_order_relaxed) < 2)
+        QThread::yieldCurrentThread();
+    ++unguarded;
 }
 } // namespace
 
