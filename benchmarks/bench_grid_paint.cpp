@@ -1,4 +1,5 @@
 // Painting: the whole viewport again, and page after page.
+#include "FreezeTableView.h"
 #include "ZrBench.h"
 #include "ZrBenchGrids.h"
 #include "ZrBenchLazy.h"

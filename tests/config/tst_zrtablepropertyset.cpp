@@ -1,3 +1,4 @@
+#include "FreezeTableView.h"
 #include "ZrRoleKeys.h"
 #include "ZrTableModel.h"
 #include "ZrTableModel_p.h"
