@@ -16,7 +16,7 @@
 #include <QtWidgets/QVBoxLayout>
 
 namespace {
-const QString foregroundRole = QString::number(Qt::ForegroundRole);
+const QString colourRole = QString::number(Qt::ForegroundRole);
 const QString rawRole = QString::number(Qt::UserRole);
 
 bool isSummable(const ZrFieldSetting &field)
@@ -130,7 +130,7 @@ void ZrBlotterPanel::colourRow(const QVariantMap &message, RecordData *row) cons
     const QString side = message.value(ZrClientFields::side).toString();
     const QColor colour = side == QLatin1String("1") ? m_view->upColor() : m_view->downColor();
     if (m_sideColumn >= 0 && colour.isValid() && !side.isEmpty())
-        (*row)[m_sideColumn].insert(foregroundRole, colour);
+        (*row)[m_sideColumn].insert(colourRole, colour);
 }
 
 // Rows keep the colours they were given: those of the new skin have to be given to all of them.

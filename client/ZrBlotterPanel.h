@@ -4,8 +4,8 @@
 #include "ZrLatencyMeter.h"
 #include "ZrMessageInbox.h"
 
-#include <QtCore/QSet>
 #include <QtWidgets/QWidget>
+#include <zrutils/ZrRecordTypes.h>
 
 class ZrTableView;
 

@@ -3,6 +3,7 @@
 #include "ZrBlotterPanel.h"
 #include "ZrTableView.h"
 
+#include <QtCore/QLocale>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>

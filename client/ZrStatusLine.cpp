@@ -2,6 +2,7 @@
 
 #include "ZrLatencyMeter.h"
 
+#include <QtCore/QLocale>
 #include <QtWidgets/QLabel>
 
 ZrStatusLine::ZrStatusLine(QWidget *parent)
