@@ -405,10 +405,16 @@ void tst_ZrHeaderSectionPainter::laterSectionsLeaveThePicturesOfTheirGroupAlone(
 {
     const HeadScene scene(HeadScene::groups("AAA.."));
     scene.head->setViewFilterable(true);
+    for (const int column : {0, 1, 2})
+        scene.head->setHeadTip(column, "help");
     const QImage shot = scene.shot();
-    for (const int x : {90, 190, 290}) {
-        QCOMPARE(shot.pixelColor(x, 12), SkinFolder::filter); // the half that stands in the band
-        QCOMPARE(shot.pixelColor(x, 27), SkinFolder::filter);
+    for (const int left : {0, 100, 200}) {
+        QCOMPARE(shot.pixelColor(left + 70, 12), SkinFolder::help); // the half that stands in the band
+        QCOMPARE(shot.pixelColor(left + 70, 27), SkinFolder::help);
+        // The button's picture stays below the band, where a press meets the button.
+        QCOMPARE(shot.pixelColor(left + 90, 22), SkinFolder::filter);
+        QCOMPARE(shot.pixelColor(left + 90, 37), SkinFolder::filter);
+        QVERIFY(shot.pixelColor(left + 90, 21) != SkinFolder::filter);
     }
 }
 
