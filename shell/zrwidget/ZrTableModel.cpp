@@ -114,16 +114,19 @@ void ZrTableModel::deleteRow(int row)
 
 const RecordDataList &ZrTableModel::getModelData() const
 {
+    d->prepareRead();
     return d->modelData;
 }
 
 RecordDataList ZrTableModel::getViewCurrentDisplayData() const
 {
+    d->prepareRead();
     return d->shownRecords();
 }
 
 RecordData ZrTableModel::getRowData(const int &row) const
 {
+    d->prepareRead();
     const int modelRow = d->modelRowAt(row);
     return modelRow < 0 ? RecordData() : d->modelData.at(modelRow);
 }
@@ -169,6 +172,7 @@ QVariant ZrTableModel::getData(int row, int viewColumn, int role) const
 
 QVariant ZrTableModel::getIndexData(int row, int logicalColumn, int role) const
 {
+    d->prepareRead();
     return ZrTableCellReader::read(*d, row, logicalColumn, role);
 }
 

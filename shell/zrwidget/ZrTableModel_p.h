@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ZrColumnOffsets.h"
 #include "ZrTableCheckCounter.h"
 #include "ZrTableDisplayList.h"
 #include "ZrTableKeyIndex.h"
@@ -11,6 +12,8 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QObject>
+
+#include <functional>
 #include <QtCore/QVector>
 
 #include <memory>
@@ -25,9 +28,10 @@ class ZrTableRows;
 ///            and check state change through the verbs only, since counters and indexes go along with them.
 /// Ownership: child of its model; keeps no pointer to a view.
 /// Threads:   GUI thread only.
-class ZRWIDGET_PRIVATE_EXPORT ZrTableModelPrivate : public QObject
+class ZRWIDGET_PRIVATE_EXPORT ZrTableModelPrivate : public QObject, public ZrColumnOffsets
 {
     Q_OBJECT
+    Q_INTERFACES(ZrColumnOffsets)
 public:
     explicit ZrTableModelPrivate(ZrTableModel *facade);
     ~ZrTableModelPrivate() override;
@@ -68,9 +72,18 @@ public:
     QMap<int, bool> perColumnSortable;             // by head position; wins over viewSortable
     QHash<QString, QHash<QString, QVariant>> hash; // reserved for the host, never filled here
 
+    /// Run before each read of the rows. The view sets it on the model of its summary line, whose row is made
+    /// only when somebody reads it.
+    std::function<void()> beforeRead;
+    void prepareRead() const
+    {
+        if (beforeRead)
+            beforeRead();
+    }
+
     // --- Verbs for the family ---
     /// Pseudo-columns in front of the caller's: view column = logical column + offset.
-    int columnOffset() const { return (checkBoxShown ? 1 : 0) + (hasSerialColumn() ? 1 : 0); }
+    int columnOffset() const override { return (checkBoxShown ? 1 : 0) + (hasSerialColumn() ? 1 : 0); }
     bool hasSerialColumn() const { return serialOrder >= ZrViewModel::SerialNumAscending; }
     /// Row of modelData shown at a view row; -1 when there is none.
     int modelRowAt(int viewRow) const;

@@ -2,6 +2,7 @@
 #include "ZrTestMain.h"
 
 #include <QtGui/QStandardItemModel>
+#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QTableView>
 
 class TestZrRowHeights : public QObject
