@@ -24,6 +24,7 @@ private slots:
     void theLastSectionLendsItsPlaceToTheBand();
     void theIndicatorStandsInTheBottomBandOfItsSection();
     void theLabelIsElidedToItsRoom();
+    void aPatternBeginsAtItsSectionAndEndsWithTheFrame();
     void theLabelGivesUpItsRoomForAHiddenButton();
     void withoutColourThereAreNoLines();
     void separatorsLeaveThreePixelsFree();
@@ -139,6 +140,20 @@ void tst_ZrHeaderSectionPainter::theLabelIsElidedToItsRoom()
     scene.head->setTextElideMode(Qt::ElideNone);
     scene.shot();
     QVERIFY(scene.style->of(QStyle::CE_HeaderLabel).at(1).text.endsWith("column"));
+}
+
+void tst_ZrHeaderSectionPainter::aPatternBeginsAtItsSectionAndEndsWithTheFrame()
+{
+    const HeadScene scene(HeadScene::plain(3));
+    scene.model->setHead(1, Qt::BackgroundRole, QBrush(Qt::Dense4Pattern));
+    scene.shot();
+    const auto frames = scene.style->of(QStyle::CE_Header);
+    QCOMPARE(frames.at(1).brushOrigin - frames.at(0).brushOrigin, QPoint(100, 0));
+    QCOMPARE(frames.at(2).brushOrigin, frames.at(0).brushOrigin);
+    for (const auto &label : scene.style->of(QStyle::CE_HeaderLabel)) {
+        if (!label.text.isEmpty()) // that of the label's own pass
+            QCOMPARE(label.brushOrigin, frames.at(0).brushOrigin);
+    }
 }
 
 void tst_ZrHeaderSectionPainter::theLabelGivesUpItsRoomForAHiddenButton()
