@@ -42,7 +42,7 @@ public:
     QRect label;         // less the room for filter button and tip
     QRect filterButton;  // as high as the section or its bottom band: what a press may hit
     QRect filterPicture; // the painted part, centred in filterButton
-    QRect tip;
+    QRect tip;           // centred in the section's whole height, grouped or not
 
     /// Place of the check box; in a tree it leaves room for the branch marks below it.
     static QRect tableCheckBox(const QRect &section);

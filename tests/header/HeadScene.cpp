@@ -5,6 +5,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
 #include <QtTest/QtTest>
 #include <QtWidgets/QStyleFactory>
 
@@ -94,7 +95,8 @@ void NotingStyle::drawControl(ControlElement element, const QStyleOption *option
                               const QWidget *widget) const
 {
     if (const auto *const header = qstyleoption_cast<const QStyleOptionHeader *>(option))
-        drawn.append({element, header->rect, header->text, header->sortIndicator, header->state});
+        drawn.append({element, header->rect, header->text, header->sortIndicator, header->state,
+                      painter->brushOrigin()});
     QProxyStyle::drawControl(element, option, painter, widget);
 }
 

@@ -89,6 +89,7 @@ public:
         QString text;
         int indicator;
         QStyle::State state;
+        QPoint brushOrigin;
     };
     NotingStyle();
     mutable QList<Drawn> drawn;

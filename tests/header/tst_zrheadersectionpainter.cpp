@@ -24,6 +24,7 @@ private slots:
     void theLastSectionLendsItsPlaceToTheBand();
     void theIndicatorStandsInTheBottomBandOfItsSection();
     void theLabelIsElidedToItsRoom();
+    void aPatternBeginsAtItsSectionAndEndsWithTheFrame();
     void theLabelGivesUpItsRoomForAHiddenButton();
     void withoutColourThereAreNoLines();
     void separatorsLeaveThreePixelsFree();
@@ -139,6 +140,20 @@ void tst_ZrHeaderSectionPainter::theLabelIsElidedToItsRoom()
     scene.head->setTextElideMode(Qt::ElideNone);
     scene.shot();
     QVERIFY(scene.style->of(QStyle::CE_HeaderLabel).at(1).text.endsWith("column"));
+}
+
+void tst_ZrHeaderSectionPainter::aPatternBeginsAtItsSectionAndEndsWithTheFrame()
+{
+    const HeadScene scene(HeadScene::plain(3));
+    scene.model->setHead(1, Qt::BackgroundRole, QBrush(Qt::Dense4Pattern));
+    scene.shot();
+    const auto frames = scene.style->of(QStyle::CE_Header);
+    QCOMPARE(frames.at(1).brushOrigin - frames.at(0).brushOrigin, QPoint(100, 0));
+    QCOMPARE(frames.at(2).brushOrigin, frames.at(0).brushOrigin);
+    for (const auto &label : scene.style->of(QStyle::CE_HeaderLabel)) {
+        if (!label.text.isEmpty()) // that of the label's own pass
+            QCOMPARE(label.brushOrigin, frames.at(0).brushOrigin);
+    }
 }
 
 void tst_ZrHeaderSectionPainter::theLabelGivesUpItsRoomForAHiddenButton()
@@ -405,10 +420,16 @@ void tst_ZrHeaderSectionPainter::laterSectionsLeaveThePicturesOfTheirGroupAlone(
 {
     const HeadScene scene(HeadScene::groups("AAA.."));
     scene.head->setViewFilterable(true);
+    for (const int column : {0, 1, 2})
+        scene.head->setHeadTip(column, "help");
     const QImage shot = scene.shot();
-    for (const int x : {90, 190, 290}) {
-        QCOMPARE(shot.pixelColor(x, 12), SkinFolder::filter); // the half that stands in the band
-        QCOMPARE(shot.pixelColor(x, 27), SkinFolder::filter);
+    for (const int left : {0, 100, 200}) {
+        QCOMPARE(shot.pixelColor(left + 70, 12), SkinFolder::help); // the half that stands in the band
+        QCOMPARE(shot.pixelColor(left + 70, 27), SkinFolder::help);
+        // The button's picture stays below the band, where a press meets the button.
+        QCOMPARE(shot.pixelColor(left + 90, 22), SkinFolder::filter);
+        QCOMPARE(shot.pixelColor(left + 90, 37), SkinFolder::filter);
+        QVERIFY(shot.pixelColor(left + 90, 21) != SkinFolder::filter);
     }
 }
 

@@ -16,6 +16,20 @@ struct CheckState
     bool pending;
 };
 
+/// Counts the paints of a widget.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
+    int count = 0;
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
 } // namespace
 Q_DECLARE_METATYPE(CheckState)
 
@@ -46,6 +60,9 @@ private slots:
     void hoveringNotesTheButton();
     void hoveringAHiddenButtonPaintsIt();
     void leavingForgetsTheButton();
+    void hoveringRepaintsTheSectionOnItsWayInAndOut();
+    void pressedAndHoveredSectionsArePaintedAsSuch();
+    void whatChangesTheLookAsksAllHeadsToRepaint();
     void dropsAreJudged_data();
     void dropsAreJudged();
     void aForbiddenDropLeavesACleanDrag();
@@ -400,6 +417,58 @@ void tst_ZrHeaderView::leavingForgetsTheButton()
     QTRY_COMPARE(scene.head->getPrivate()->hoverSection, 1);
     QTest::mouseMove(scene.table->viewport(), QPoint(20, 60));
     QTRY_COMPARE(scene.head->getPrivate()->hoverSection, -1);
+}
+
+void tst_ZrHeaderView::hoveringRepaintsTheSectionOnItsWayInAndOut()
+{
+    HeadScene scene(HeadScene::plain(2));
+    scene.head->setViewFilterable(true);
+    scene.shot();
+    PaintCounter paints(scene.head->viewport());
+    // Inside one section the base sees no reason to paint.
+    QTest::mouseMove(scene.head->viewport(), scene.at(1, 20));
+    QTRY_VERIFY(paints.count > 0);
+    QCoreApplication::processEvents();
+    paints.count = 0;
+    QTest::mouseMove(scene.head->viewport(), scene.at(1, 90));
+    QTRY_VERIFY(paints.count > 0);
+    QCOMPARE(scene.head->getPrivate()->hoverSection, 1);
+    QCoreApplication::processEvents();
+    paints.count = 0;
+    QTest::mouseMove(scene.head->viewport(), scene.at(1, 30));
+    QTRY_VERIFY(paints.count > 0);
+    QCOMPARE(scene.head->getPrivate()->hoverSection, -1);
+}
+
+void tst_ZrHeaderView::pressedAndHoveredSectionsArePaintedAsSuch()
+{
+    HeadScene scene(HeadScene::plain(3));
+    const auto statesOf = [&scene] {
+        scene.shot();
+        return scene.style->of(QStyle::CE_Header);
+    };
+    QTest::mouseMove(scene.head->viewport(), scene.at(1, 20));
+    QTRY_VERIFY(statesOf().at(1).state & QStyle::State_MouseOver);
+    QVERIFY(!(statesOf().at(0).state & QStyle::State_MouseOver));
+    scene.press(scene.centre(2));
+    QVERIFY(statesOf().at(2).state & QStyle::State_Sunken);
+    QVERIFY(!(statesOf().at(1).state & QStyle::State_Sunken));
+    scene.release(scene.centre(2));
+    QVERIFY(!(statesOf().at(2).state & QStyle::State_Sunken));
+}
+
+void tst_ZrHeaderView::whatChangesTheLookAsksAllHeadsToRepaint()
+{
+    HeadScene scene({{-2, ""}, {0, "c0"}});
+    scene.head->setCheckBoxShow(true);
+    QSignalSpy asked(scene.head->getPrivate(), &ZrHeaderViewPrivate::repaintRequested);
+    scene.head->setGridColor(Qt::red);
+    QCOMPARE(asked.size(), 1);
+    QVERIFY(scene.head->getPrivate()->gridColorSet);
+    scene.head->setChecked(true);
+    QCOMPARE(asked.size(), 2);
+    scene.click(scene.centre(0));
+    QCOMPARE(asked.size(), 3);
 }
 
 void tst_ZrHeaderView::dropsAreJudged_data()
