@@ -1,7 +1,6 @@
 #include "ZrBenchGrids.h"
 
 #include "ZrTableModel.h"
-#include "ZrTableModel_p.h"
 #include "ZrTableView.h"
 
 #include <QtCore/QCoreApplication>
@@ -79,14 +78,18 @@ void ZrBenchOurGrid::load(const RecordDataList &records)
 void ZrBenchOurGrid::filterTenth()
 {
     m_view->setViewFilterable(true);
-    // What the head does when the popup's choice is taken.
-    m_view->getZrTableModel()->getModelPrivate()->setColumnFilter(
-        ZrBenchData::PriceColumn, tenthFilter().value(ZrBenchData::PriceColumn));
+    setFilter(tenthFilter());
 }
 
 void ZrBenchOurGrid::showAll()
 {
-    m_view->getZrTableModel()->getModelPrivate()->setColumnFilter(ZrBenchData::PriceColumn, {});
+    setFilter({});
+}
+
+void ZrBenchOurGrid::setFilter(const ViewFilterList &filters)
+{
+    m_view->resetViewCurrentFilterList(filters);
+    m_view->getZrTableModel()->update();
 }
 
 void ZrBenchPriceFilter::setBounds(double low, double high)

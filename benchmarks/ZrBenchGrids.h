@@ -39,6 +39,7 @@ public:
     void showAll();
 
 private:
+    void setFilter(const ViewFilterList &filters);
     const std::unique_ptr<ZrTableView> m_view;
 };
 
