@@ -60,16 +60,18 @@ public:
         return withoutState(shown) == withoutState(expected) ? QString() : QStringLiteral("row %1").arg(row);
     }
 
-    /// Empty when each part of the table counts the rows that there are.
-    QString partsDifference() const
+    /// Empty when each part of the table counts the rows that there are. Rows that left may be counted on
+    /// until the event loop turns (`settled`), rows that came are there at once.
+    QString partsDifference(bool settled) const
     {
         const QList<QTableView *> parts{view.getTableView(), view.getTableView()->frozenTable(1),
                                         view.getTableView()->frozenTable(2)};
         for (const QTableView *const part : parts) {
-            if (part->verticalHeader()->count() != view.getRowCount())
+            const int counted = part->verticalHeader()->count();
+            if (counted < view.getRowCount() || (settled && counted != view.getRowCount()))
                 return QStringLiteral("%1 counts %2 of %3 rows")
                     .arg(part->objectName())
-                    .arg(part->verticalHeader()->count())
+                    .arg(counted)
                     .arg(view.getRowCount());
         }
         return {};
@@ -234,20 +236,22 @@ private slots:
             drive.step();
             QVERIFY2(drive.difference().isEmpty(),
                      qPrintable(QStringLiteral("step %1: %2").arg(step).arg(drive.difference())));
-            if (step % 40 == 0) {
+            const bool isSettled = step % 40 == 0;
+            if (isSettled) {
                 QCoreApplication::processEvents();
                 // No event loop runs below this one that would let the thawed side tables go.
                 QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
             }
             if (drive.isTold())
-                QVERIFY2(drive.partsDifference().isEmpty(),
-                         qPrintable(QStringLiteral("step %1: %2").arg(step).arg(drive.partsDifference())));
+                QVERIFY2(drive.partsDifference(isSettled).isEmpty(),
+                         qPrintable(
+                             QStringLiteral("step %1: %2").arg(step).arg(drive.partsDifference(isSettled))));
             if (step % 1000 == 0)
                 QVERIFY(!drive.view.grab().isNull());
         }
         QCOMPARE(drive.view.getViewData().size(), drive.plain.rows.size());
         QTRY_VERIFY(drive.isTold());
-        QCOMPARE(drive.partsDifference(), QString());
+        QTRY_COMPARE(drive.partsDifference(true), QString());
     }
 };
 
