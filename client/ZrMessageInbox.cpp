@@ -6,12 +6,18 @@
 ZrMessageInbox::ZrMessageInbox(QObject *parent)
     : QObject(parent)
 {
+    m_next.setSingleShot(true);
+    m_next.setTimerType(Qt::PreciseTimer);
+    connect(&m_next, &QTimer::timeout, this, &ZrMessageInbox::drain);
 }
 
-void ZrMessageInbox::post()
+void ZrMessageInbox::schedule()
 {
-    QMetaObject::invokeMethod(
-        this, [this] { drain(); }, Qt::QueuedConnection);
+    const qint64 sinceMs = m_sinceBatch.isValid() ? m_sinceBatch.elapsed() : FrameMs;
+    if (sinceMs >= FrameMs)
+        drain();
+    else
+        m_next.start(int(FrameMs - sinceMs));
 }
 
 void ZrMessageInbox::put(const ZrInboxMessage &message)
@@ -24,7 +30,8 @@ void ZrMessageInbox::put(const ZrInboxMessage &message)
         m_posted = true;
     }
     if (mustPost)
-        post();
+        QMetaObject::invokeMethod(
+            this, [this] { schedule(); }, Qt::QueuedConnection);
 }
 
 bool ZrMessageInbox::isEmpty() const
@@ -46,8 +53,10 @@ void ZrMessageInbox::drain()
         more = !m_waiting.empty();
         m_posted = more;
     }
+    // By the timer: an event posted now would come before the paint that shows this batch.
     if (more)
-        post();
+        m_next.start(0);
+    m_sinceBatch.start();
     if (!batch.empty())
         emit signalBatch(batch);
 }

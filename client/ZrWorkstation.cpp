@@ -199,8 +199,8 @@ QString ZrWorkstation::finish()
     m_end.stop();
     m_report.seconds = double(m_running.elapsed()) / 1000.0;
     m_player->stop();
+    m_status.stop(); // it keeps showing the rate of the run, not that of its end
     drain();
-    m_status.stop();
     fillReport();
     m_presenter->detach();
     return writeFiles();

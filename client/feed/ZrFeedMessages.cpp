@@ -70,14 +70,9 @@ uint accountIndex(const ZrOrderState &order, int count)
 } // namespace
 
 ZrFeedMessages::ZrFeedMessages(const QTimeZone &zone, const QList<QVariantMap> &accounts)
-    : m_zone(zone)
+    : m_clock(zone)
     , m_accounts(accounts)
 {
-}
-
-QString ZrFeedMessages::clock(qint64 timeNs) const
-{
-    return ZrFeedTime::clockText(timeNs, m_zone);
 }
 
 void ZrFeedMessages::append(const ZrFeedEvent &event, QList<ZrFeedMessage> *messages)
@@ -104,7 +99,7 @@ void ZrFeedMessages::count(const ZrExecReport &report)
     m_totals.rejects += report.kind == ZrExecKind::Reject ? 1 : 0;
 }
 
-QVariantMap ZrFeedMessages::orderRecord(const ZrOrderState &order) const
+QVariantMap ZrFeedMessages::orderRecord(const ZrOrderState &order)
 {
     QVariantMap record;
     if (!m_accounts.isEmpty())
@@ -137,7 +132,8 @@ void ZrFeedMessages::addExecution(const ZrExecReport &report, QVariantMap *recor
     record->insert(Fields::cumQty, order.filled.toDouble());
     record->insert(Fields::leavesQty, order.rest().toDouble());
     record->insert(Fields::cancelledQty, order.withdrawn.toDouble());
-    record->insert(Fields::averagePrice, order.averagePrice().toDouble());
+    if (order.fills > 0)
+        record->insert(Fields::averagePrice, order.averagePrice().toDouble());
     record->insert(Fields::filledValue, order.turnover.toDouble());
     record->insert(Fields::fillRatio,
                    order.quantity.isZero() ? 0.0 : order.filled.toDouble() / order.quantity.toDouble());

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "ZrFeedTime.h"
 #include "ZrOrderTracker.h"
 
-#include <QtCore/QTimeZone>
 #include <QtCore/QVariantMap>
 
 /// A message on its way to the bus.
@@ -53,12 +53,12 @@ private:
     void appendReport(const ZrExecReport &report, QList<ZrFeedMessage> *messages);
     void appendTrade(const ZrFeedEvent &event, QList<ZrFeedMessage> *messages);
     void appendDepth(const ZrFeedEvent &event, QList<ZrFeedMessage> *messages);
-    QVariantMap orderRecord(const ZrOrderState &order) const;
+    QVariantMap orderRecord(const ZrOrderState &order);
     void addExecution(const ZrExecReport &report, QVariantMap *record);
     void count(const ZrExecReport &report);
-    QString clock(qint64 timeNs) const;
+    QString clock(qint64 timeNs) { return m_clock.text(timeNs); }
 
-    const QTimeZone m_zone;
+    ZrClockText m_clock;
     const QList<QVariantMap> m_accounts;
     ZrOrderTracker m_tracker;
     QHash<QByteArray, Market> m_markets;

@@ -176,7 +176,30 @@ bool ZrFeedTime::readIso(const QByteArray &text, qint64 *timeNs) const
     return true;
 }
 
-QString ZrFeedTime::clockText(qint64 timeNs, const QTimeZone &zone)
+ZrClockText::ZrClockText(const QTimeZone &zone)
+    : m_zone(zone)
 {
-    return QDateTime::fromMSecsSinceEpoch(timeNs / 1000000, zone).toString(QStringLiteral("hh:mm:ss.zzz"));
+}
+
+QString ZrClockText::text(qint64 timeNs)
+{
+    constexpr qint64 quarterMs = 900000;
+    constexpr qint64 dayMs = 86400000;
+    const qint64 timeMs = timeNs / 1000000;
+    if (timeMs / quarterMs != m_quarter) {
+        m_quarter = timeMs / quarterMs;
+        m_offsetMs = qint64(m_zone.offsetFromUtc(QDateTime::fromMSecsSinceEpoch(timeMs, Qt::UTC))) * 1000;
+    }
+    const qint64 clockMs = ((timeMs + m_offsetMs) % dayMs + dayMs) % dayMs;
+    QString result(12, QLatin1Char(':'));
+    const auto write = [&result](int at, int digits, qint64 value) {
+        for (; digits > 0; --digits, value /= 10)
+            result[at + digits - 1] = QLatin1Char(char('0' + value % 10));
+    };
+    write(0, 2, clockMs / 3600000);
+    write(3, 2, clockMs / 60000 % 60);
+    write(6, 2, clockMs / 1000 % 60);
+    write(9, 3, clockMs % 1000);
+    result[8] = QLatin1Char('.');
+    return result;
 }

@@ -36,9 +36,6 @@ public:
     bool read(const QByteArray &text, qint64 *timeNs) const;
     qint64 midnightNs() const { return m_midnightNs; }
 
-    /// The clock time in `zone`, "09:30:00.123".
-    static QString clockText(qint64 timeNs, const QTimeZone &zone);
-
 private:
     bool readCompact(const QByteArray &text, qint64 *timeNs) const;
     bool readNumber(const QByteArray &text, qint64 unitNs, qint64 *timeNs) const;
@@ -46,4 +43,21 @@ private:
     qint64 midnightOf(const QDate &day) const;
 
     qint64 m_midnightNs = 0;
+};
+
+/// Writes times as the clock of a zone shows them, "09:30:00.123".
+///
+/// Shape:   asks the zone once for each quarter of an hour: its rules are slow to read and change on none
+///          of the minutes between.
+/// Threads: one at a time.
+class ZrClockText
+{
+public:
+    explicit ZrClockText(const QTimeZone &zone);
+    QString text(qint64 timeNs);
+
+private:
+    const QTimeZone m_zone;
+    qint64 m_quarter = -1;
+    qint64 m_offsetMs = 0;
 };

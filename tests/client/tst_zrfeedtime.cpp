@@ -116,9 +116,16 @@ void tst_ZrFeedTime::whatIsNoTimeIsRefused()
 
 void tst_ZrFeedTime::theClockTextIsThatOfTheZone()
 {
-    QCOMPARE(ZrFeedTime::clockText(MidnightNs + Opening + 20999999, QTimeZone("Asia/Shanghai")),
-             QStringLiteral("09:30:00.020"));
-    QCOMPARE(ZrFeedTime::clockText(MidnightNs + Opening, QTimeZone::utc()), QStringLiteral("01:30:00.000"));
+    ZrClockText shanghai(QTimeZone("Asia/Shanghai"));
+    QCOMPARE(shanghai.text(MidnightNs + Opening + 20999999), QStringLiteral("09:30:00.020"));
+    QCOMPARE(shanghai.text(MidnightNs - 1000000), QStringLiteral("23:59:59.999"));
+    QCOMPARE(shanghai.text(0), QStringLiteral("08:00:00.000"));
+    ZrClockText utc(QTimeZone::utc());
+    QCOMPARE(utc.text(MidnightNs + Opening), QStringLiteral("01:30:00.000"));
+    // The night in which clocks went forward.
+    ZrClockText newYork(QTimeZone("America/New_York"));
+    QCOMPARE(newYork.text(Q_INT64_C(1678604399999) * 1000000), QStringLiteral("01:59:59.999"));
+    QCOMPARE(newYork.text(Q_INT64_C(1678604400000) * 1000000), QStringLiteral("03:00:00.000"));
 }
 
 ZR_TEST_GUILESS_MAIN(tst_ZrFeedTime)
