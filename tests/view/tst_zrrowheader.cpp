@@ -16,6 +16,7 @@ struct Tables
         ours.setVerticalHeader(new ZrRowHeader(&ours));
         for (QTableView *table : {&ours, &plain}) {
             table->setModel(&model);
+            table->verticalHeader()->setMinimumSectionSize(1); // the style's own one follows the font
             table->verticalHeader()->setDefaultSectionSize(20);
         }
     }
@@ -151,6 +152,7 @@ void tst_ZrRowHeader::aResetAndAnotherModelCountAnew()
 void tst_ZrRowHeader::rowsBelowAnotherRowAreNotOurs()
 {
     Tables tables(3);
+    tables.model.setItem(0, 0, new QStandardItem);
     tables.model.item(0)->appendRow(new QStandardItem);
     tables.model.item(0)->removeRow(0);
     QCoreApplication::processEvents();
