@@ -41,20 +41,21 @@ double secondsOf(const std::function<void()> &work)
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-ZrBenchResult runBench(const ZrBenchCase &benchCase, int repetitions)
+ZrBenchResult runBench(const ZrBenchCase &benchCase, int repetitions, const QString &side)
 {
     const ZrBenchSides sides = benchCase.make();
     QVector<double> ours;
     QVector<double> peer;
     QVector<double> limit;
-    const auto measure = [](const std::function<double()> &side, QVector<double> &values) {
-        if (side)
-            values.append(side());
+    const auto measure = [&side](const char *name, const std::function<double()> &work,
+                                 QVector<double> &values) {
+        if (work && (side.isEmpty() || side == QLatin1String(name)))
+            values.append(work());
     };
     for (int i = 0; i < repetitions; ++i) {
-        measure(sides.ours, ours);
-        measure(sides.peer, peer);
-        measure(sides.limit, limit);
+        measure("ours", sides.ours, ours);
+        measure("peer", sides.peer, peer);
+        measure("limit", sides.limit, limit);
     }
     ZrBenchResult result;
     result.row = benchCase.row;

@@ -55,7 +55,8 @@ struct ZrBenchResult
 
 /// Runs `repetitions` rounds of ours, peer, limit, so that what happens on the machine meanwhile falls on all
 /// three.
-ZrBenchResult runBench(const ZrBenchCase &benchCase, int repetitions);
+/// With a `side` ("ours", "peer" or "limit") the others are left out: what a profiler should see alone.
+ZrBenchResult runBench(const ZrBenchCase &benchCase, int repetitions, const QString &side = QString());
 
 double medianOf(QVector<double> values);
 

@@ -37,13 +37,13 @@ bool writeFile(const QString &name, const QByteArray &content)
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
 }
 
-QVector<ZrBenchResult> measured(const ZrBenchCases &cases, int repetitions)
+QVector<ZrBenchResult> measured(const ZrBenchCases &cases, int repetitions, const QString &side)
 {
     QTextStream out(stdout);
     out << ZrBenchReport::head() << Qt::endl;
     QVector<ZrBenchResult> results;
     for (const ZrBenchCase &benchCase : cases) {
-        results.append(runBench(benchCase, repetitions));
+        results.append(runBench(benchCase, repetitions, side));
         out << ZrBenchReport::line(results.constLast()) << Qt::endl;
     }
     return results;
@@ -56,7 +56,7 @@ int main(int argc, char *argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen");
     // Nothing of the user's: neither settings are read nor anything is left behind.
     const QTemporaryDir home;
-    for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
+    for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})
         qputenv(name, home.path().toUtf8());
     QApplication app(argc, argv);
     QLoggingCategory::setFilterRules(
@@ -70,7 +70,10 @@ int main(int argc, char *argv[])
     const QCommandLineOption repetitions(QStringLiteral("reps"),
                                          QStringLiteral("Repetitions of each row, at least 5."),
                                          QStringLiteral("count"), QString::number(LeastRepetitions));
-    parser.addOptions({json, list, repetitions});
+    const QCommandLineOption side(QStringLiteral("side"),
+                                  QStringLiteral("Measure one side only, for a profiler."),
+                                  QStringLiteral("ours|peer|limit"));
+    parser.addOptions({json, list, repetitions, side});
     parser.addPositionalArgument(QStringLiteral("filter"),
                                  QStringLiteral("Only rows whose name holds this."));
     parser.process(app);
@@ -86,7 +89,7 @@ int main(int argc, char *argv[])
         return 0;
     }
     const QVector<ZrBenchResult> results =
-        measured(cases, qMax(LeastRepetitions, parser.value(repetitions).toInt()));
+        measured(cases, qMax(LeastRepetitions, parser.value(repetitions).toInt()), parser.value(side));
     if (parser.isSet(json) && !writeFile(parser.value(json), ZrBenchReport::json(results))) {
         QTextStream(stderr) << "zrbench: can't write " << parser.value(json) << Qt::endl;
         return 1;

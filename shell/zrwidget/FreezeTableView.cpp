@@ -2,6 +2,7 @@
 
 #include "ZrFrozenPanes.h"
 #include "ZrFrozenSide.h"
+#include "ZrRowHeader.h"
 #include "ZrScrollCoupling.h"
 #include "ZrTableView_p.h"
 
@@ -22,6 +23,7 @@ FreezeTableView::FreezeTableView(QWidget *parent)
     : QTableView(parent)
     , m_panes(new ZrFrozenPanes(this, &m_grid))
 {
+    setVerticalHeader(new ZrRowHeader(this));
     QTableView::setAlternatingRowColors(true);
     m_panes->attachMainHead();
     connect(verticalHeader(), &QHeaderView::sectionResized, this, &FreezeTableView::updateSectionHeight);

@@ -1,5 +1,7 @@
 #include "ZrFrozenTable.h"
 
+#include "ZrRowHeader.h"
+
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QTableView>
 
@@ -24,6 +26,7 @@ void copyRowHeights(const QHeaderView *from, QHeaderView *to)
 QAbstractItemView *ZrFrozenTable::createSide(QWidget *parent) const
 {
     QTableView *const side = new QTableView(parent);
+    side->setVerticalHeader(new ZrRowHeader(side));
     side->verticalHeader()->hide();
     return side;
 }

@@ -166,13 +166,26 @@ void ZrHeaderView::paintHeaderSection(QPainter *painter, const QRect &rect, int 
 
 bool ZrHeaderView::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == this && event->type() == QEvent::HoverMove) {
-        const QPoint point = static_cast<QHoverEvent *>(event)->pos();
-        const ZrHeaderHits hits(*this, *d, point);
-        if (hits.column() >= 0)
-            hoverTo(hits.isFilterButton() ? hits.section() : -1);
-    }
+    if (watched == this)
+        followPointer(*event);
     return QHeaderView::eventFilter(watched, event);
+}
+
+// The head itself is told of hovering, its viewport isn't. This comes before the base's own look at the
+// event, which then asks for the repaints of the sections that are entered and left.
+void ZrHeaderView::followPointer(const QEvent &event)
+{
+    const QEvent::Type type = event.type();
+    if (type == QEvent::HoverLeave || type == QEvent::Leave) {
+        m_hovered = -1;
+        hoverTo(-1);
+    }
+    if (type != QEvent::HoverEnter && type != QEvent::HoverMove)
+        return;
+    const ZrHeaderHits hits(*this, *d, static_cast<const QHoverEvent &>(event).pos());
+    m_hovered = hits.section();
+    if (type == QEvent::HoverMove && hits.column() >= 0)
+        hoverTo(hits.isFilterButton() ? hits.section() : -1);
 }
 
 void ZrHeaderView::hoverTo(int section)
@@ -185,24 +198,6 @@ void ZrHeaderView::hoverTo(int section)
         updateSection(left);
     if (section >= 0)
         updateSection(section);
-}
-
-bool ZrHeaderView::viewportEvent(QEvent *event)
-{
-    switch (event->type()) {
-    case QEvent::HoverEnter:
-    case QEvent::HoverMove:
-        m_hovered = logicalIndexAt(static_cast<QHoverEvent *>(event)->pos());
-        break;
-    case QEvent::HoverLeave:
-    case QEvent::Leave:
-        m_hovered = -1;
-        hoverTo(-1);
-        break;
-    default: // what else reaches a viewport says nothing about the pointer's section
-        break;
-    }
-    return QHeaderView::viewportEvent(event);
 }
 
 void ZrHeaderView::mousePressEvent(QMouseEvent *event)

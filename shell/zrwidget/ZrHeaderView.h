@@ -77,7 +77,6 @@ protected:
     void paintSection(QPainter *painter, const QRect &rect, int section) const override;
     void paintHeaderSection(QPainter *painter, const QRect &rect, int section, bool dragging) const;
     bool eventFilter(QObject *watched, QEvent *event) override;
-    bool viewportEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -85,6 +84,7 @@ protected:
 private:
     void setUp();
     bool isTableHead() const;
+    void followPointer(const QEvent &event);
     void hoverTo(int section);
     void pressBase(QMouseEvent *event);
     void drop(QMouseEvent *event);

@@ -48,6 +48,9 @@ void ZrTableColumns::setHeadList(HeadList *list)
     setViewHeadIndexOrderByProperty();
     if (d->groupedHead)
         d->groupedHeight->start();
+    // What the heads say holds for all parts: frozen sides and summary read it there, and the sections of a
+    // list before stay hidden otherwise.
+    hideByHeads();
     const QList<int> hidden = d->hiddenColumns;
     for (const int column : hidden)
         setColumnShow(column, false);
@@ -222,7 +225,7 @@ void ZrTableColumns::saveOrder()
     const QString text = ZrColumnOrder::toText(logicalOrder());
     ZrCore::instance()->saveSetting(settingKey(), text, Constants::VIEWFIELDORDERLIST, QString(),
                                     QSettings::UserScope);
-    qDebug() << "slotHeadSectionMoved" << text;
+    qDebug() << "slotHeadSectionMoved" << d->visualOrder;
     d->plugin->orderChanged();
 }
 

@@ -74,11 +74,16 @@ void ZrTableSummary::createParts()
 
 void ZrTableSummary::connectBars()
 {
-    // The summary's bar serves both tables, so it has the range of the main table's hidden one.
+    // The summary's bar serves both tables, so it has the range of the main table's hidden one. Its own table
+    // sets another one at each layout, for it has no vertical bar and so more room: that is set back, or the
+    // two bars below would lead each other on, a little further each time, up to the end.
     QScrollBar *const bar = d->summaryTable->horizontalScrollBar();
     QScrollBar *const mainBar = d->table->horizontalScrollBar();
     connect(bar, &QScrollBar::valueChanged, d->table, &FreezeTableView::setValue);
     connect(mainBar, &QScrollBar::rangeChanged, bar, &QScrollBar::setRange);
+    connect(bar, &QScrollBar::rangeChanged, mainBar,
+            [bar, mainBar] { bar->setRange(mainBar->minimum(), mainBar->maximum()); });
+    bar->setRange(mainBar->minimum(), mainBar->maximum());
     // Keys scroll the main table itself; the visible bar must not stay behind.
     connect(mainBar, &QScrollBar::valueChanged, bar, &QScrollBar::setValue);
 }
@@ -90,6 +95,10 @@ void ZrTableSummary::copySettings()
     d->summaryModel->setCheckBoxShow(d->checkBoxShown);
     d->summaryHeader->setCheckBoxShow(d->checkBoxShown);
     d->summaryDelegate->setCheckBoxShow(d->checkBoxShown);
+    const ZrItemModelDeletagePrivate *const look = d->delegate->getDelegatePrivate();
+    d->summaryDelegate->setItemGridColor(look->gridColor);
+    d->summaryDelegate->setGridLineStyle(look->gridLineStyle);
+    d->summaryDelegate->setColumnDefaultXMargin(look->columnXMargin);
     d->summaryModel->setSumFlag(true);
     ZrTableModelPrivate *const own = d->summaryModel->getModelPrivate();
     const ZrTableModelPrivate *const main = d->model->getModelPrivate();
@@ -111,6 +120,7 @@ void ZrTableSummary::removeParts()
     d->summaryModel->getModelPrivate()->beforeRead = nullptr;
     d->table->horizontalScrollBar()->disconnect(d->summaryTable->horizontalScrollBar());
     d->summaryTable->horizontalScrollBar()->disconnect(d->table);
+    d->summaryTable->horizontalScrollBar()->disconnect(d->table->horizontalScrollBar());
     d->bottomLayout->removeWidget(d->summaryTable);
     d->summaryTable->hide();
     d->table->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);

@@ -23,6 +23,9 @@ ZrTableViewPrivate::ZrTableViewPrivate(ZrTableView *facade)
 
 ZrTableViewPrivate::~ZrTableViewPrivate()
 {
+    // While our fields live: it reads them as it goes.
+    delete summary;
+    summary = nullptr;
     // The table outlives us by a moment and must not ask any more.
     if (table)
         table->setTablePrivate(nullptr);
@@ -121,7 +124,8 @@ void ZrTableViewPrivate::installModel(ZrTableModel *newModel)
     old->disconnect(view);
     header->disconnect(old);
     header->disconnect(view);
-    header->disconnect(this);
+    // That one alone: the head also tells us of moved columns, whatever the model.
+    disconnect(header, &QHeaderView::sectionResized, this, nullptr);
     newModel->setParent(table);
     newModel->setCheckBoxShow(checkBoxShown);
     serialOrder = newModel->serialNumberColumnPropety();

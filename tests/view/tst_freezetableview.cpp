@@ -326,6 +326,32 @@ private slots:
         QCOMPARE(spy.count(), 1);
     }
 
+    void otherSignalsOfASideAreTold_data()
+    {
+        QTest::addColumn<int>("side");
+        QTest::newRow("left") << leftSide;
+        QTest::newRow("right") << rightSide;
+    }
+
+    void otherSignalsOfASideAreTold()
+    {
+        QFETCH(int, side);
+        Frozen f;
+        QTableView *const table = sideOf(f.view, side);
+        QSignalSpy activated(&f.view, &ZrTableView::activated);
+        QSignalSpy entered(&f.view, &ZrTableView::entered);
+        QSignalSpy viewportEntered(&f.view, &ZrTableView::viewportEntered);
+        QSignalSpy iconSize(&f.view, &ZrTableView::iconSizeChanged);
+        emit table->activated(f.view.index(1, 0));
+        emit table->entered(f.view.index(1, 0));
+        emit table->viewportEntered();
+        table->setIconSize(QSize(9, 9));
+        QCOMPARE(activated.count(), 1);
+        QCOMPARE(entered.count(), 1);
+        QCOMPARE(viewportEntered.count(), 1);
+        QCOMPARE(iconSize.count(), 1);
+    }
+
     void upAndDownMoveAllParts_data()
     {
         QTest::addColumn<int>("part");

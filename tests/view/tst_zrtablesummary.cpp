@@ -262,6 +262,44 @@ private slots:
         QCOMPARE(bar->value(), 0);
     }
 
+    void barsStayTogetherWhenOnlyTheGridHasAVerticalBar_data()
+    {
+        QTest::addColumn<bool>("byTheSummarysBar");
+        QTest::newRow("grid scrolled") << false;
+        QTest::newRow("summary's bar dragged") << true;
+    }
+
+    void barsStayTogetherWhenOnlyTheGridHasAVerticalBar()
+    {
+        QFETCH(bool, byTheSummarysBar);
+        ZrTableView view;
+        kit::setUp(&view, 60, 12);
+        view.setSummaryLineEnable(true);
+        QScrollBar *const bar = view.getPrivate()->summaryTable->horizontalScrollBar();
+        QScrollBar *const main = view.getTableView()->horizontalScrollBar();
+        QTRY_VERIFY(view.getTableView()->verticalScrollBar()->isVisible());
+        view.resize(410, 300);
+        QCoreApplication::processEvents();
+        (byTheSummarysBar ? bar : main)->setValue(100);
+        QCOMPARE(main->value(), 100);
+        QCOMPARE(bar->value(), 100);
+        QCOMPARE(bar->maximum(), main->maximum());
+    }
+
+    void aNewSummaryLooksLikeTheGrid()
+    {
+        ZrTableView view;
+        view.setGridLineColor(Qt::red);
+        view.setGridLineStyle(3);
+        view.setColumnDefaultXMargin(6);
+        view.setSummaryLineEnable(true);
+        const ZrItemModelDeletagePrivate *const look =
+            view.getPrivate()->summaryDelegate->getDelegatePrivate();
+        QCOMPARE(look->gridColor, QColor(Qt::red));
+        QCOMPARE(look->gridLineStyle, 3);
+        QCOMPARE(look->columnXMargin, 6);
+    }
+
     void alignmentReachesTheSummary()
     {
         Summed s;

@@ -1,3 +1,4 @@
+#include "ZrHeaderView_p.h"
 #include "ZrItemModelDeletage.h"
 #include "ZrItemModelDeletage_p.h"
 #include "ZrTableModel_p.h"
@@ -238,6 +239,8 @@ private slots:
         QTest::ignoreMessage(QtDebugMsg, "ZrTableView::setColumnSortable 1 false");
         view.setColumnSortable(20, false);
         QCOMPARE(view.getZrTableModel()->getModelPrivate()->perColumnSortable, (QMap<int, bool>{{1, false}}));
+        QCOMPARE(view.getZrTableHorizontalHeader()->getPrivate()->perColumnSortable,
+                 (QMap<int, bool>{{1, false}}));
         QTest::ignoreMessage(QtDebugMsg, "ZrTableView::setColumnSortable -1 true");
         view.setColumnSortable(30, true);
         QCOMPARE(view.getZrTableModel()->getModelPrivate()->perColumnSortable.size(), 1);
@@ -323,7 +326,9 @@ private slots:
         view.setColumnMatchFilterFunction(
             1, [](const QVariant &value, const QList<QVariantMap> &) { return value.toInt() == 2; });
         const ViewFilterList filters{{1, {{QVariantMap()}}}};
+        QSignalSpy reset(view.getZrTableModel(), &QAbstractItemModel::modelReset);
         view.resetViewCurrentFilterList(filters);
+        QCOMPARE(reset.count(), 0); // the caller's own reset follows
         QCOMPARE(view.getViewCurrentFilterList(), filters);
         QCOMPARE(view.getRowCount(), 1);
         QVERIFY(view.getPrivate()->isColumnFiltered(1));
@@ -385,6 +390,8 @@ private slots:
         QCOMPARE(sums->columnXMargin, 6);
         view.setHeadDefaultXMargin(5);
         view.setHeadTip(1, QStringLiteral("help"));
+        QCOMPARE(view.getZrTableHorizontalHeader()->getPrivate()->headXMargin, 5);
+        QCOMPARE(view.getZrTableHorizontalHeader()->getPrivate()->headTips.value(1), QStringLiteral("help"));
         view.SetAlternatingRowColors(false);
         QVERIFY(!view.getTableView()->alternatingRowColors());
     }
