@@ -47,7 +47,7 @@ public:
                    ZrBenchPacer pacer;
                    for (const RecordDataList &batch : batches) {
                        grid.view()->updataRecordDatas(batch);
-                       pacer.tick();
+                       pacer.tick(batch.size());
                    }
                    ZrBenchPacer::drain();
                });
