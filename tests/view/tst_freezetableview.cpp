@@ -623,18 +623,17 @@ private slots:
         QFETCH(int, side);
         ZrTableView view;
         kit::setUp(&view, 5, 6);
-        view.setSelectionMode(QAbstractItemView::ExtendedSelection);
+        // None of them what a new table has by itself.
+        view.setSelectionMode(QAbstractItemView::MultiSelection);
         view.setSelectionBehavior(QAbstractItemView::SelectRows);
-        view.SetAlternatingRowColors(false);
         view.getTableView()->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-        view.getTableView()->setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);
         view.setFrozenColumns(side, true, 2);
         const QTableView *const made = sideOf(view, side);
-        QCOMPARE(made->selectionMode(), QAbstractItemView::ExtendedSelection);
+        QCOMPARE(made->selectionMode(), QAbstractItemView::MultiSelection);
         QCOMPARE(made->selectionBehavior(), QAbstractItemView::SelectRows);
-        QVERIFY(!made->alternatingRowColors());
+        QVERIFY(made->alternatingRowColors());
         QCOMPARE(made->verticalScrollMode(), QAbstractItemView::ScrollPerPixel);
-        QCOMPARE(made->horizontalScrollMode(), QAbstractItemView::ScrollPerItem);
+        QCOMPARE(made->horizontalScrollMode(), QAbstractItemView::ScrollPerPixel);
         QCOMPARE(made->itemDelegate(), view.getTableView()->itemDelegate());
         QCOMPARE(made->frameShape(), QFrame::NoFrame);
         QVERIFY(!made->showGrid() && !made->hasAutoScroll());
