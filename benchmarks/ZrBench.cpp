@@ -4,6 +4,8 @@
 #include <chrono>
 #include <cmath>
 
+#include <time.h>
+
 namespace {
 // Whether ours / other keeps the bound; a side or a bound that isn't there asks for nothing.
 bool keepsBound(double ours, double other, double bound, bool higherIsBetter)
@@ -34,7 +36,21 @@ double medianOf(QVector<double> values)
     return values.size() % 2 == 1 ? values.at(middle) : (values.at(middle - 1) + values.at(middle)) / 2;
 }
 
+double threadSeconds()
+{
+    timespec time = {};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return double(time.tv_sec) + double(time.tv_nsec) * 1e-9;
+}
+
 double secondsOf(const std::function<void()> &work)
+{
+    const double start = threadSeconds();
+    work();
+    return threadSeconds() - start;
+}
+
+double wallSecondsOf(const std::function<void()> &work)
 {
     const auto start = std::chrono::steady_clock::now();
     work();

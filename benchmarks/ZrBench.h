@@ -60,8 +60,13 @@ ZrBenchResult runBench(const ZrBenchCase &benchCase, int repetitions, const QStr
 
 double medianOf(QVector<double> values);
 
-/// Seconds that `work` takes.
+/// Processor time of this thread in s. Other work on the machine doesn't count, and on an idle one it is what
+/// a clock on the wall shows.
+double threadSeconds();
+/// Seconds of this thread's processor time that `work` takes; all that the grids do happens on one thread.
 double secondsOf(const std::function<void()> &work);
+/// Seconds on the wall, for work that goes over to another thread and back.
+double wallSecondsOf(const std::function<void()> &work);
 
 using ZrBenchCases = QVector<ZrBenchCase>;
 ZrBenchCases gridUpdateBenches();

@@ -1,5 +1,6 @@
 #include "ZrBenchGrids.h"
 
+#include "ZrBench.h"
 #include "ZrTableModel.h"
 #include "ZrTableView.h"
 
@@ -12,7 +13,7 @@
 #include <zrdefine/VexlorValues.h>
 
 namespace {
-constexpr int FrameMs = 16;
+constexpr double FrameSeconds = 0.016;
 const QSize WindowSize(1400, 800);
 constexpr int RowHeightPx = 22; // as the sheet has it for ours
 
@@ -29,12 +30,22 @@ QMap<int, QVariant> rolesOf(const ZrBenchCell &cell)
 }
 } // namespace
 
-void ZrBenchPacer::tick()
+ZrBenchPacer::ZrBenchPacer()
+    : m_lastSeconds(threadSeconds())
 {
-    if (m_clock.elapsed() < FrameMs)
+}
+
+void ZrBenchPacer::tick(int operations)
+{
+    constexpr int OperationsPerLook = 16;
+    m_operations += operations;
+    if (m_operations < OperationsPerLook)
+        return;
+    m_operations = 0;
+    if (threadSeconds() - m_lastSeconds < FrameSeconds)
         return;
     QCoreApplication::processEvents();
-    m_clock.start();
+    m_lastSeconds = threadSeconds();
 }
 
 void ZrBenchPacer::drain()

@@ -33,7 +33,7 @@ public:
     }
     double microseconds()
     {
-        return 1e6 / Trips * secondsOf([this] {
+        return 1e6 / Trips * wallSecondsOf([this] {
                    for (int i = 0; i < Trips; ++i) {
                        emit ping();
                        m_loop.exec();
@@ -71,7 +71,7 @@ public:
     }
     double microseconds()
     {
-        return 1e6 / Trips * secondsOf([this] {
+        return 1e6 / Trips * wallSecondsOf([this] {
                    for (int i = 0; i < Trips; ++i)
                        request();
                });

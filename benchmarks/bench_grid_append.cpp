@@ -5,7 +5,7 @@
 #include "ZrTableView.h"
 
 namespace {
-constexpr int OurAppends = 20000;
+constexpr int OurAppends = 4000;
 constexpr int PeerAppends = 200; // each moves all rows of the standard model
 const char *const PeerName = "QStandardItemModel, QHash, QTableView";
 

@@ -86,6 +86,7 @@ void ZrBlotterToolBar::addToggles()
     connect(left, &QAction::toggled, this, [this](bool on) { freeze(1, on); });
     connect(right, &QAction::toggled, this, [this](bool on) { freeze(2, on); });
     connect(boxes, &QAction::toggled, m_panel->view(), &ZrTableView::setCheckBoxShow);
+    connect(boxes, &QAction::toggled, this, &ZrBlotterToolBar::freezeAgain);
     connect(follow, &QAction::toggled, m_panel, &ZrBlotterPanel::setFollowing);
     connect(open, &QAction::toggled, m_panel, &ZrBlotterPanel::setOpenOnly);
     connect(summary, &QAction::toggled, m_panel, &ZrBlotterPanel::setSummaryShown);
@@ -94,7 +95,16 @@ void ZrBlotterToolBar::addToggles()
 
 void ZrBlotterToolBar::freeze(int side, bool on)
 {
-    m_panel->view()->setFrozenColumns(side, on, side == 1 ? FrozenLeft : FrozenRight);
+    // The left count takes in the columns of check boxes and numbers, which no head tells of.
+    const ZrTableView *const view = m_panel->view();
+    const int extra = view->getZrTableModel()->columnCount() - m_panel->view()->getHeadList().size();
+    m_panel->view()->setFrozenColumns(side, on, side == 1 ? FrozenLeft + extra : FrozenRight);
+}
+
+void ZrBlotterToolBar::freezeAgain()
+{
+    if (toggle(QStringLiteral("freezeLeft"))->isChecked())
+        freeze(1, true);
 }
 
 // The grid knows no way back from delayed display.
@@ -114,6 +124,7 @@ void ZrBlotterToolBar::addSerial()
         const int order = choice->itemData(index).toInt();
         m_panel->view()->setSerialNumberColumnPropety(ZrViewModel::SerialNumColumnOrder(order));
         m_panel->applyColumns();
+        freezeAgain();
     });
 }
 

@@ -32,6 +32,7 @@ private:
     void addRowLimit(int maxRows);
     QComboBox *addChoice(const QString &label, const QString &tip);
     void freeze(int side, bool on);
+    void freezeAgain();
     void delayDisplay(QAction *toggle);
 
     ZrBlotterPanel *const m_panel; // not owned

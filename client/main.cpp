@@ -1,5 +1,6 @@
 #include "ZrClientApplication.h"
 #include "ZrLanguage.h"
+#include "ZrQuietPlatform.h"
 #include "ZrWorkstation.h"
 
 #include <QtCore/QDir>
@@ -92,5 +93,7 @@ int main(int argc, char *argv[])
     }
     ZrLanguage::install(&app, options.language);
     options.headless = QGuiApplication::platformName() == QLatin1String("offscreen");
+    if (options.headless)
+        ZrQuietPlatform::install();
     return run(options, &app);
 }

