@@ -6,7 +6,6 @@
 #include <QtCore/QObject>
 #include <QtCore/QUrl>
 #include <QtGui/QColor>
-#include <QtGui/QPen>
 
 class ZrItemModelDeletage;
 
@@ -35,10 +34,4 @@ public:
     bool summaryMode = false; // the one-row table under a grid
     bool checkedRowHighlight = false;
     QColor checkedColor; // invalid: no highlight
-
-    /// The grid's pen, made anew only when the colour changed: a paint asks for it once per cell.
-    const QPen &gridPen();
-
-private:
-    QPen m_gridPen;
 };

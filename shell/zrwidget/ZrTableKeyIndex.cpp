@@ -7,7 +7,10 @@ namespace {
 // A cell mostly holds its text as a QString: that one is shared instead of being made anew.
 QString textOf(const ItemRoleMap &cell, const QString &role)
 {
-    const auto found = cell.constFind(role);
+    auto found = cell.constBegin();
+    // A walk, since a cell has few roles and a search compares texts by order, not by pointer.
+    while (found != cell.constEnd() && !found.key().isSharedWith(role) && found.key() != role)
+        ++found;
     if (found == cell.constEnd())
         return QString();
     if (found->userType() == QMetaType::QString)

@@ -3,16 +3,23 @@
 #include "zrutils/ZrRecordTypes.h"
 #include "zrwidget_global.h"
 
+#include <QtCore/QVarLengthArray>
+
 class ZrTableSums;
+
+/// Columns that an update changed. On the stack up to a wide grid's usual update: the list is made for each
+/// one.
+using ZrChangedColumns = QVarLengthArray<int, 32>;
 
 /// Merge of one record into a stored one at role grain.
 class ZRWIDGET_PRIVATE_EXPORT ZrTableMerge
 {
 public:
-    /// Columns that brought something new. Roles that the incoming cells don't name stay, so an update never
-    /// removes one. `sums`, where given, is told each changed cell.
-    static QList<int> merge(RecordData &stored, const RecordData &incoming, ZrTableSums *sums);
+    /// Appends the columns that brought something new to `changed`. Roles that the incoming cells don't name
+    /// stay, so an update never removes one. `sums`, where given, is told each changed cell.
+    static void merge(RecordData &stored, const RecordData &incoming, ZrTableSums *sums,
+                      ZrChangedColumns &changed);
 
 private:
-    static bool mergeCell(RecordData &stored, int column, const ItemRoleMap &cell, ZrTableSums *sums);
+    static void write(ItemRoleMap &have, const ItemRoleMap &cell);
 };

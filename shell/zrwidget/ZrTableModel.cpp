@@ -193,11 +193,8 @@ void ZrTableModel::updateData(int row, QList<int> &columns)
 {
     if (row < 0)
         return;
-    for (const int column : qAsConst(columns)) {
-        const QModelIndex cell = getIndex(row, column);
-        if (cell.isValid()) // a column without a head has no cell to repaint
-            d->emitCellChanged(cell, cell);
-    }
+    for (const int column : qAsConst(columns))
+        d->emitCellChanged(row, column);
 }
 
 void ZrTableModel::timerEvent(QTimerEvent *event)

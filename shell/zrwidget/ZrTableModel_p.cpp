@@ -220,6 +220,13 @@ void ZrTableModelPrivate::endRemove()
     model->endRemoveRows();
 }
 
+void ZrTableModelPrivate::emitCellChanged(int viewRow, int logicalColumn)
+{
+    const QModelIndex cell = model->getIndex(viewRow, logicalColumn);
+    if (cell.isValid()) // a column without a head has no cell to repaint
+        emit model->dataChanged(cell, cell);
+}
+
 void ZrTableModelPrivate::emitCellChanged(const QModelIndex &from, const QModelIndex &to,
                                           const QVector<int> &roles)
 {

@@ -131,6 +131,7 @@ public:
     /// The row -1 stands for a row that wasn't shown.
     void beginRemove(int first, int last);
     void endRemove();
+    void emitCellChanged(int viewRow, int logicalColumn);
     void emitCellChanged(const QModelIndex &from, const QModelIndex &to, const QVector<int> &roles = {});
     /// Lets the views count again when the rows or columns they were told of aren't those there are.
     void settleViews();

@@ -1,7 +1,6 @@
 #include "ZrTableUpdates.h"
 
 #include "ZrRoleKeys.h"
-#include "ZrTableMerge.h"
 #include "ZrTableModel_p.h"
 #include "ZrTableRows.h"
 #include "ZrTableSignalScope.h"
@@ -30,14 +29,10 @@ ZrTableUpdates::Change ZrTableUpdates::merge(const RecordData &record)
     if (!rows.countsFollow())
         rows.forgetCounts();
     RecordData &stored = m_fields.modelData[row];
-    const bool wasChecked = ZrTableCheckCounter::isChecked(stored);
-    ZrTableSums *sums = isCounted && m_fields.sums.isActive() ? &m_fields.sums : nullptr;
-    change.columns = ZrTableMerge::merge(stored, record, sums);
+    mergeCells(stored, record, isCounted, change.columns);
     if (change.columns.isEmpty())
         return change;
     change.row = row;
-    if (isCounted)
-        m_fields.checkCounter.changed(wasChecked, ZrTableCheckCounter::isChecked(stored));
     const auto isKey = [this](int column) { return m_fields.keyColumns.contains(column); };
     if (std::any_of(change.columns.cbegin(), change.columns.cend(), isKey) &&
         m_fields.makeKey(stored) != change.key)
@@ -51,6 +46,20 @@ ZrTableUpdates::Change ZrTableUpdates::merge(const RecordData &record)
     return change;
 }
 
+void ZrTableUpdates::mergeCells(RecordData &stored, const RecordData &record, bool isCounted,
+                                ZrChangedColumns &changed)
+{
+    ZrTableSums *sums = isCounted && m_fields.sums.isActive() ? &m_fields.sums : nullptr;
+    // Few updates touch the row state, and its cell is the one that nothing else here has to fetch.
+    if (!isCounted || !record.contains(ZrRowStateColumn)) {
+        ZrTableMerge::merge(stored, record, sums, changed);
+        return;
+    }
+    const bool wasChecked = ZrTableCheckCounter::isChecked(stored);
+    ZrTableMerge::merge(stored, record, sums, changed);
+    m_fields.checkCounter.changed(wasChecked, ZrTableCheckCounter::isChecked(stored));
+}
+
 void ZrTableUpdates::update(const RecordData &record)
 {
     const Change change = merge(record);
@@ -62,9 +71,10 @@ void ZrTableUpdates::update(const RecordData &record)
         tellCells(change.row, change.columns, record);
 }
 
-void ZrTableUpdates::tellCells(int row, QList<int> columns, const RecordData &record)
+void ZrTableUpdates::tellCells(int row, const ZrChangedColumns &columns, const RecordData &record)
 {
-    m_fields.model->updateData(row, columns);
+    for (const int column : columns)
+        m_fields.emitCellChanged(row, column);
     if (m_fields.checkBoxShown && record.contains(ZrRowStateColumn))
         m_fields.updateHeadCheckState();
 }

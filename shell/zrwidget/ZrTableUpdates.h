@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ZrTableMerge.h"
 #include "zrutils/ZrRecordTypes.h"
 #include "zrwidget_global.h"
 
@@ -20,12 +21,13 @@ private:
     {
         int row = -1; // of the model; -1: nothing is new
         QString key;
-        QList<int> columns; // that changed
-        int position = -1;  // where the row was shown; -1: it wasn't
+        ZrChangedColumns columns;
+        int position = -1; // where the row was shown; -1: it wasn't
         bool isMatch = true;
     };
     Change merge(const RecordData &record);
-    void tellCells(int row, QList<int> columns, const RecordData &record);
+    void mergeCells(RecordData &stored, const RecordData &record, bool isCounted, ZrChangedColumns &changed);
+    void tellCells(int row, const ZrChangedColumns &columns, const RecordData &record);
     void tellFiltered(const Change &change, const RecordData &record);
     void leave(const Change &change);
     void enter(const Change &change);
