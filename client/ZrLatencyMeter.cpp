@@ -18,7 +18,8 @@ qint64 ZrLatencyMeter::endOf(int index)
     if (index < Steps)
         return index;
     const int doubling = index / Steps - 1;
-    return ((qint64(index % Steps) + Steps + 1) << doubling) - 1;
+    // Unsigned: the last class ends at the largest number there is.
+    return qint64(((quint64(index % Steps) + Steps + 1) << doubling) - 1);
 }
 
 void ZrLatencyMeter::add(qint64 durationNs)

@@ -262,7 +262,7 @@ void ZrBus::setService(const QVariant &msgType, ZrBusService service)
 {
     const std::lock_guard<std::mutex> guard(d->mutex);
     if (service)
-        d->services.insert(msgType.toString(), std::move(service));
+        d->services.insert(msgType.toString(), service);
     else
         d->services.remove(msgType.toString());
 }

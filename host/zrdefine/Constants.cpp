@@ -44,7 +44,8 @@ const QString STRATEGYPARAM_LINKTYPE = QStringLiteral("ParamLinktype");
 const QString STRATEGYPARAM_HBOXLAYOUT = QStringLiteral("ParamHboxlayout");
 const QString STRATEGYPARAM_VBOXLAYOUT = QStringLiteral("ParamVboxlayout");
 const QString STRATEGYPARAM_VIEWDISPLAY = QStringLiteral("ParamViewdisplay");
-const QString STRATEGYPARAM_INITIALBASICPARAMDESCVISIABLE = QStringLiteral("ParamInitialbasicparamdescvisiable");
+const QString STRATEGYPARAM_INITIALBASICPARAMDESCVISIABLE =
+    QStringLiteral("ParamInitialbasicparamdescvisiable");
 const QString STRATEGYPARAM_INITIALBASICPARAMUI = QStringLiteral("ParamInitialbasicparamui");
 const QString STRATEGYPARAM_INITIALBASICPARAMVISIABLE = QStringLiteral("ParamInitialbasicparamvisiable");
 const QString STRATEGYPARAM_INITIALBASICPARAMWIDTH = QStringLiteral("ParamInitialbasicparamwidth");

@@ -37,7 +37,8 @@ public:
 
     /// Reads a setting. `key` is a plugin instance ID or a view's own key, `group` a constant,
     /// `file` empty for the client's own file. An unset one is a variant with an empty toString().
-    QVariant settings(const QString &key, const QString &group, const QString &file, QSettings::Scope scope) const;
+    QVariant settings(const QString &key, const QString &group, const QString &file,
+                      QSettings::Scope scope) const;
     /// Writes what settings() reads under the same four coordinates.
     void saveSetting(const QString &key, const QVariant &value, const QString &group, const QString &file,
                      QSettings::Scope scope);

@@ -39,7 +39,8 @@ public:
                                       QList<QMap<QString, QVariant>> &initialParams,
                                       QList<QMap<QString, QVariant>> &runningParams,
                                       QList<QMap<QString, QVariant>> &resultParams,
-                                      QList<QMap<QString, QVariant>> &links, QMap<QString, QVariant> &strategy,
+                                      QList<QMap<QString, QVariant>> &links,
+                                      QMap<QString, QVariant> &strategy,
                                       QMap<QString, QVariant> &interfaceSettings);
 
 private:

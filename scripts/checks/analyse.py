@@ -70,7 +70,7 @@ def command_for(kind, name, entry, build):
         return [tool("clang-tidy"), "--quiet", "-p", str(build), f"--header-filter={repo.ROOT}/(hostapi|host|shell|client)/", name]
     if kind == "clazy":
         return ["clazy-standalone", f"--checks={CLAZY}", "-p", str(build), f"--header-filter={repo.ROOT}/(hostapi|host|shell|client)/", name]
-    return ["g++", "-fsyntax-only", "-fPIC", "-Wall", "-Wextra", "-Werror", *plain_arguments(entry), "-x", "c++", name]
+    return ["g++", "-fsyntax-only", "-fPIC", "-Wall", "-Wextra", "-Werror", *plain_arguments(entry), "-include", name, "-x", "c++", "/dev/null"]
 
 
 def run(kind, name, entry, build, cache):

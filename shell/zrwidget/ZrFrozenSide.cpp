@@ -159,6 +159,8 @@ void ZrFrozenSide::place(int frozenCount)
 {
     if (!m_view)
         return;
-    head()->setFixedWidth(columnsWidthPx(frozenCount));
-    m_view->setGeometry(geometryPx(frozenCount));
+    const QRect panePx = geometryPx(frozenCount);
+    // As wide as the whole pane; on the right it goes on under the pane's bar, which stays on top.
+    head()->setFixedWidth(panePx.width());
+    m_view->setGeometry(panePx);
 }

@@ -79,7 +79,7 @@ QVariant ZrTableCellReader::pseudoValue(const ZrTableModelPrivate &fields, const
     if (fields.checkBoxShown && column != ZrSerialNumberColumn)
         return QVariant();
     if (fields.sumFlag)
-        return fields.modelTr("Total");
+        return fields.modelTr(QT_TRANSLATE_NOOP("ZrTableModel", "Total"));
     return serialValue(fields, row);
 }
 

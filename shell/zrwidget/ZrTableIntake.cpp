@@ -153,6 +153,8 @@ int ZrTableIntake::insertNew(int row, const RecordDataList &records, RecordDataL
         const RecordData &record = records.at(i);
         const QString key = m_fields.makeKey(record);
         const Kind kind = classify(key);
+        // In front: they are merged in the given order, as those of an appended list are. Of two records of
+        // one key the later one is the newer push, and its values stay.
         if (kind == Existing)
             existing.prepend(record);
         if (kind != New)

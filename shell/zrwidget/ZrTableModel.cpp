@@ -33,8 +33,14 @@ void ZrTableModel::setKeyColumn(const QList<int> &columns)
 {
     if (columns == d->keyColumns)
         return;
-    d->rows().loseStep(); // the keys in use stay those of the old columns until the next rebuild
+    // Mostly set on a new table: nothing is out of step there, or a stream of single records would be
+    // searched and renumbered row by row until something else rebuilds.
+    const bool isFresh = d->modelData.isEmpty() && d->keyToRow.size() == 0;
+    if (!isFresh)
+        d->rows().loseStep(); // the keys in use stay those of the old columns until the next rebuild
     d->keyColumns = columns;
+    if (isFresh)
+        d->rows().renumber();
 }
 
 QList<int> ZrTableModel::getKeyColumn() const

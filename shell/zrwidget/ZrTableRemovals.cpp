@@ -60,15 +60,22 @@ int ZrTableRemovals::notePositions(const RecordDataList &records, QMap<int, QStr
 
 // From the highest position down, so that the key map's numbers still hold for the rows above. They don't for
 // the filtered-out one, which comes last: the row that its old number leads to goes. Required; it stays
-// within bounds.
+// within bounds. Without such a one the display list needn't become a plain list of keys, in which every
+// later update would scan for its row.
 void ZrTableRemovals::takeOut(const QMap<int, QString> &noted)
 {
     ZrTableRows &rows = m_fields.rows();
-    rows.loseStep();
+    const bool keepsStep = rows.canFollow() && noted.firstKey() >= 0;
+    if (!keepsStep)
+        rows.loseStep();
     for (auto it = noted.constEnd(); it != noted.constBegin();) {
         --it;
         m_fields.indexWidgets.remove(it.value());
         const int row = m_fields.keyToRow.row(it.value());
+        if (keepsStep) {
+            rows.removeInStep(row);
+            continue;
+        }
         if (row >= 0 && row < m_fields.modelData.size())
             rows.removeUnnumbered(row);
         if (m_fields.filterable)

@@ -201,6 +201,17 @@ void ZrTableRows::removeUnnumbered(int row)
     m_fields.checkCounter.rowRemoved(row, m_fields.modelData.size());
 }
 
+void ZrTableRows::removeInStep(int row)
+{
+    if (row < 0 || row >= m_fields.modelData.size())
+        return;
+    countOut(m_fields.modelData.at(row));
+    m_fields.modelData.removeAt(row);
+    m_fields.checkCounter.rowRemoved(row, m_fields.modelData.size());
+    if (m_fields.filterable)
+        m_fields.displayKeyList.removeRow(row);
+}
+
 void ZrTableRows::replaceAll(const RecordDataList &records)
 {
     loseStep();

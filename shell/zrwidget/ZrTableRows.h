@@ -30,6 +30,9 @@ public:
     int removeKeyed(int row, const QString &key);
     /// Takes a row out and leaves the numbers of later keys as they are.
     void removeUnnumbered(int row);
+    /// Takes a shown row out while canFollow() holds; the caller goes from the highest row down and renumbers
+    /// once at the end.
+    void removeInStep(int row);
     void replaceAll(const RecordDataList &records);
 
     /// The key map anew; in filter mode the display list as well.

@@ -31,7 +31,8 @@ void ZrTableSections::insertCheckHead()
 
 void ZrTableSections::insertSerialHead()
 {
-    const auto head = pseudoHead(ZrSerialNumberColumn, m_fields.modelTr("Seq."));
+    const auto head =
+        pseudoHead(ZrSerialNumberColumn, m_fields.modelTr(QT_TRANSLATE_NOOP("ZrTableModel", "Seq.")));
     m_fields.headList.insert(qMin(m_fields.checkBoxShown ? 1 : 0, m_fields.headList.size()), head);
 }
 

@@ -290,9 +290,7 @@ void ZrTableView::setItemSelectable(bool selectable)
 
 void ZrTableView::setAlwaysDisplayLatest(bool latest)
 {
-    disconnect(d->model, &QAbstractItemModel::rowsInserted, d->table, &QAbstractItemView::scrollToBottom);
-    if (latest)
-        connect(d->model, &QAbstractItemModel::rowsInserted, d->table, &QAbstractItemView::scrollToBottom);
+    d->setAlwaysDisplayLatest(latest);
 }
 
 void ZrTableView::setCheckBoxShow(bool shown)

@@ -115,6 +115,14 @@ void ZrTableViewPrivate::connectModelAndHeader()
     connect(header, &ZrHeaderView::signalFilterListChanged, view, &ZrTableView::signalFilterListChanged);
 }
 
+void ZrTableViewPrivate::setAlwaysDisplayLatest(bool latest)
+{
+    alwaysDisplayLatest = latest;
+    disconnect(model, &QAbstractItemModel::rowsInserted, table, &QAbstractItemView::scrollToBottom);
+    if (latest)
+        connect(model, &QAbstractItemModel::rowsInserted, table, &QAbstractItemView::scrollToBottom);
+}
+
 void ZrTableViewPrivate::installModel(ZrTableModel *newModel)
 {
     if (!newModel || newModel == model)
@@ -132,6 +140,8 @@ void ZrTableViewPrivate::installModel(ZrTableModel *newModel)
     model = newModel;
     table->setModel(newModel);
     connectModelAndHeader();
+    disconnect(old, &QAbstractItemModel::rowsInserted, table, &QAbstractItemView::scrollToBottom);
+    setAlwaysDisplayLatest(alwaysDisplayLatest); // the caller asked the view, not the model
     old->deleteLater();
     updateSummary();
 }

@@ -77,7 +77,8 @@ public:
     QHash<QString, QVariant> hash; // reserved for the host, never used here
     QHBoxLayout *bottomLayout = nullptr;
     bool checkedRowHighlight = false;
-    ZrTableView *const view; // the facade, our parent
+    bool alwaysDisplayLatest = false; // of whichever model is shown
+    ZrTableView *const view;          // the facade, our parent
 
     // --- Concerns, our children ---
     ZrTableColumns *columns = nullptr;
@@ -114,6 +115,7 @@ public:
     void installHeader(ZrHeaderView *newHeader);
     void installDelegate(ZrItemModelDeletage *newDelegate);
     void connectModelAndHeader();
+    void setAlwaysDisplayLatest(bool latest);
 
     // --- ZrHeaderHost ---
     Kind headKind() const override;

@@ -7,6 +7,23 @@ bool isEven(const QVariant &value, const QList<QVariantMap> &conditions)
 {
     return !conditions.isEmpty() && value.toInt() % 2 == 0;
 }
+
+/// Notes what a subclass sees when it is told of a sort.
+class ZrSortWitness : public ZrTableModel
+{
+public:
+    using ZrTableModel::ZrTableModel;
+    void SortIndicatorChanged(int section, Qt::SortOrder order) override
+    {
+        sections.append(section);
+        orders.append(order);
+        firstKey = makeRecordKey(getModelData().constFirst());
+    }
+
+    QList<int> sections;
+    QList<Qt::SortOrder> orders;
+    QString firstKey;
+};
 } // namespace
 
 /// Sort, view-side filter and the setting of cells.
@@ -35,6 +52,19 @@ private slots:
         QCOMPARE(t.fields->sortColumn, 2);
         t.model->addRecordData(t.row("e", 0));
         QCOMPARE(t.modelKeys().last(), QString("e"));
+    }
+
+    void aSubclassIsToldOnceTheRowsAreSorted()
+    {
+        QTableView view;
+        ZrSortWitness model(&view);
+        model.setKeyColumn({0});
+        model.setHeaderData(ZrTableFixture::heads());
+        model.addRecordDataList({ZrTableFixture::row("a", 3), ZrTableFixture::row("b", 1)});
+        model.slotSortIndicatorChanged(2, Qt::AscendingOrder);
+        QCOMPARE(model.sections, QList<int>{2});
+        QCOMPARE(model.orders, QList<Qt::SortOrder>{Qt::AscendingOrder});
+        QCOMPARE(model.firstKey, QString("b"));
     }
 
     void whatIsNotSortableStays()
@@ -156,6 +186,44 @@ private slots:
         t.fields->setColumnFilter(2, t.atLeast(3));
         QCOMPARE(t.model->deleteRecordDataList({t.row("b"), t.row("d")}), 2);
         QCOMPARE(t.modelKeys(), QStringList({"a", "b", "c"}));
+    }
+
+    // Else each later update of a filtered table would scan for its row.
+    void aDeletedListOfShownOnesLeavesTheDisplayOrdered()
+    {
+        ZrTableFixture t;
+        fill(t);
+        t.model->setCheckBoxShow(true);
+        t.fields->setFilterable(true);
+        t.fields->setColumnFilter(2, t.atLeast(2));
+        QCOMPARE(t.shownKeys(), QStringList({"a", "c", "d"}));
+        const QPersistentModelIndex last(t.model->index(2, 0));
+        QCOMPARE(t.fields->sumRecordNow(), t.model->getSumRecord());
+        t.clearSpies();
+        QCOMPARE(t.model->deleteRecordDataList({t.row("c"), t.row("unknown"), t.row("a"), t.row("c")}), 3);
+        QVERIFY(t.fields->displayKeyList.isOrdered());
+        QCOMPARE(t.modelKeys(), QStringList({"b", "d"}));
+        QCOMPARE(t.shownKeys(), QStringList{"d"});
+        QCOMPARE(t.range(t.removed, 0), ZrRange(0, 0));
+        QCOMPARE(t.range(t.removed, 1), ZrRange(1, 1));
+        QCOMPARE(t.model->getRowByKey("d"), 0);
+        QCOMPARE(last.row(), 0);
+        QCOMPARE(t.fields->sumRecordNow(), t.model->getSumRecord());
+        QCOMPARE(t.fields->invariantError(), QString());
+        t.model->updataRecordData(t.row("b", 7)); // in front of d
+        QCOMPARE(t.shownKeys(), QStringList({"b", "d"}));
+    }
+
+    void filterListsRestoredTellNothing()
+    {
+        ZrTableFixture t;
+        fill(t);
+        t.fields->setFilterable(true);
+        t.clearSpies();
+        const ViewFilterList filters{{2, t.atLeast(3)}};
+        t.model->resetViewCurrentFilterList(filters);
+        QCOMPARE(t.fields->viewFilterList, filters);
+        QCOMPARE(t.reset.size() + t.changed.size() + t.inserted.size() + t.removed.size(), 0);
     }
 
     void deleteRowInFilterModeTakesTheNextShownRow()

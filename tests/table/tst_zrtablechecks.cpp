@@ -131,6 +131,30 @@ private slots:
         QVERIFY(!t.model->setCheckBoxEnabledByKey("a", true));
     }
 
+    void enablingInFilterModeTellsTheRowOfTheModel()
+    {
+        ZrTableFixture t;
+        t.model->setCheckBoxShow(true);
+        t.model->addRecordDataList({t.row("a", 0), t.row("b", 9), t.row("c", 9)});
+        t.fields->setFilterable(true);
+        t.fields->setColumnFilter(2, t.atLeast(5));
+        t.clearSpies();
+        QVERIFY(t.model->setCheckBoxEnabledByRow(0, false));
+        QCOMPARE(t.model->getRowDataByKey("b").value(-1).value("262"), QVariant(false));
+        QCOMPARE(t.changed.size(), 1);
+        QCOMPARE(t.changed.at(0).at(0).toModelIndex().row(), 1); // b is shown in row 0
+    }
+
+    void countingTellsTheHeadAlsoWhatItKnows()
+    {
+        ZrTableFixture t;
+        fill(t);
+        t.fields->updateHeadCheckState();
+        t.fields->updateHeadCheckState();
+        QCOMPARE(t.head.size(), 2);
+        QCOMPARE(t.head.at(1).at(0).toInt(), 0);
+    }
+
     void aHiddenKeyIsEnabledInSilence()
     {
         ZrTableFixture t;

@@ -40,6 +40,25 @@ private slots:
         QCOMPARE(t.model->getIndexData(0, 2, Qt::UserRole), QVariant(3));
     }
 
+    // Else each delete in a table that only got single records would renumber all rows.
+    void keyColumnsOfAnEmptyTableLeaveItInStep()
+    {
+        ZrTableFixture t;
+        QVERIFY(t.fields->keyToRow.isExact());
+        t.model->setKeyColumn({2});
+        t.model->addRecordData(t.row("a", 7));
+        QVERIFY(t.fields->keyToRow.isExact());
+        QCOMPARE(t.model->getRowByKey("7"), 0);
+        t.model->setKeyColumn({0}); // the keys in use are the old ones
+        QVERIFY(!t.fields->keyToRow.isExact());
+        QCOMPARE(t.model->getRowByKey("7"), 0);
+        t.model->updateRecordDataList({t.row("b")});
+        t.model->deleteRow(0); // leaves the numbers stale, although there are none
+        t.model->setKeyColumn({2});
+        QVERIFY(t.fields->keyToRow.isExact());
+        QCOMPARE(t.fields->invariantError(), QString());
+    }
+
     void anEmptyKeyIsRefused()
     {
         ZrTableFixture t;
@@ -113,6 +132,16 @@ private slots:
         QCOMPARE(t.modelKeys(), QStringList({"a", "x", "y", "z"}));
         QCOMPARE(t.range(t.removed), ZrRange(4, 4));
         QCOMPARE(t.range(t.inserted), ZrRange(1, 2));
+    }
+
+    void ofTwoKnownOnesInAnInsertedListTheLastWins()
+    {
+        ZrTableFixture t;
+        t.model->addRecordDataList(t.rows({"a", "b"}));
+        QCOMPARE(t.model->insertRecordDataList(0, {t.row("a", 1), t.row("x"), t.row("a", 2)}), 1);
+        QCOMPARE(t.model->getRowDataByKey("a").value(2).value("256"), QVariant(2));
+        t.model->addRecordDataList({t.row("b", 3), t.row("b", 4)}); // an appended list agrees
+        QCOMPARE(t.model->getRowDataByKey("b").value(2).value("256"), QVariant(4));
     }
 
     void aLongInsertIsRenumberedOnce()
@@ -221,6 +250,17 @@ private slots:
         QCOMPARE(model.getIndexData(0, 2, Qt::UserRole), QVariant(1));
     }
 
+    void replacingForgetsTheWidgetsInCells()
+    {
+        ZrTableFixture t;
+        t.model->addRecordDataList(t.rows({"a", "b"}));
+        QWidget widget;
+        t.model->setIndexWidget(1, 2, &widget);
+        QCOMPARE(t.fields->indexWidgets.size(), 1);
+        t.model->updateRecordDataList(t.rows({"a", "b"}));
+        QVERIFY(t.fields->indexWidgets.isEmpty());
+    }
+
     void aDeletedKeyIsGoneAndTheRestRenumbered()
     {
         ZrTableFixture t;
@@ -288,6 +328,36 @@ private slots:
         t.model->deleteRow(0); // tells at once
         QCOMPARE(t.removed.size(), 1);
         QCOMPARE(t.fields->delayInMs, quint16(0));
+    }
+
+    void aHiddenRecordStartsNoDelay()
+    {
+        ZrTableFixture t;
+        t.model->setViewDelayDisplayTime(0);
+        t.fields->setFilterable(true);
+        t.fields->setColumnFilter(2, t.atLeast(5));
+        t.model->addRecordData(t.row("a", 1));
+        t.model->addRecordDataList({t.row("b", 1)});
+        t.model->insertRecordData(0, t.row("c", 1));
+        t.model->insertRecordDataList(0, {t.row("d", 1)});
+        QCOMPARE(t.fields->modelData.size(), 4);
+        QCOMPARE(t.fields->delayTimerId, 0);
+        t.model->addRecordData(t.row("e", 9));
+        QVERIFY(t.fields->delayTimerId != 0);
+    }
+
+    void deleteRowWithoutKeysIsDelayed()
+    {
+        ZrTableFixture t;
+        t.model->setKeyColumn({});
+        t.model->addRecordDataList(t.rows({"a", "b"}));
+        t.model->setViewDelayDisplayTime(0);
+        t.clearSpies();
+        t.model->deleteRow(0);
+        QCOMPARE(t.removed.size(), 0);
+        QVERIFY(t.fields->delayTimerId != 0);
+        QTRY_COMPARE(t.reset.size(), 1);
+        QCOMPARE(t.view.verticalHeader()->count(), 1);
     }
 
     void theCurrentRowSurvivesAnUpdate()

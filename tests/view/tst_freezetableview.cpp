@@ -204,7 +204,12 @@ private slots:
         const int widthPx = columnsPx + side->verticalScrollBar()->width();
         QTRY_COMPARE(side->width(), widthPx);
         QCOMPARE(side->x(), f.table->width() - widthPx - f.table->frameWidth());
-        QCOMPARE(side->horizontalHeader()->minimumWidth(), columnsPx);
+        const QHeaderView *const head = side->horizontalHeader();
+        QCOMPARE(head->minimumWidth(), widthPx);
+        QCOMPARE(head->maximumWidth(), widthPx);
+        QCOMPARE(head->width(), widthPx);
+        QCOMPARE(side->childAt(side->width() - 2, 2),
+                 side->verticalScrollBar()); // its upper end isn't covered
     }
 
     void rightSideNarrowsWhenItsBarGoes()
@@ -215,6 +220,7 @@ private slots:
         f.view.clear();
         QTRY_VERIFY(!side->verticalScrollBar()->isVisible());
         QTRY_COMPARE(side->width(), side->columnWidth(10) + side->columnWidth(11));
+        QCOMPARE(side->horizontalHeader()->width(), side->width());
     }
 
     void sidesFollowTheMainTablesSize()
@@ -380,6 +386,24 @@ private slots:
         QCOMPARE(current.count(), 3);
     }
 
+    void keysOfASideScrollTheMainTableToTheFirstColumn_data()
+    {
+        QTest::addColumn<int>("side");
+        QTest::newRow("left") << leftSide;
+        QTest::newRow("right") << rightSide;
+    }
+
+    void keysOfASideScrollTheMainTableToTheFirstColumn()
+    {
+        QFETCH(int, side);
+        Frozen f;
+        f.view.setCurrentIndex(f.view.index(4, 3));
+        f.table->horizontalScrollBar()->setValue(300);
+        QTest::keyClick(sideOf(f.view, side), Qt::Key_Down);
+        QCOMPARE(f.table->currentIndex(), f.view.index(5, 0));
+        QCOMPARE(f.table->horizontalScrollBar()->value(), 0);
+    }
+
     void downScrollsToTheRow()
     {
         Frozen f;
@@ -525,6 +549,20 @@ private slots:
         QCOMPARE(view.getRowsByCheckStatus(true).size(), 5);
     }
 
+    void checkStateOfTheRightHeadIsThatOfTheMainHead()
+    {
+        ZrTableView view;
+        kit::setUp(&view, 5, 6);
+        view.setCheckBoxShow(true);
+        view.setFrozenColumns(rightSide, true, 2);
+        QSignalSpy state(&view, &ZrTableView::signalHeadCheckStateChanged);
+        auto *const head = qobject_cast<ZrHeaderView *>(headOf(view, rightSide));
+        QVERIFY(head);
+        emit head->stateChanged(Qt::Checked);
+        QCOMPARE(state.count(), 1);
+        QCOMPARE(view.getRowsByCheckStatus(true).size(), 5);
+    }
+
     void checkBoxClickedInALeftCellChecksTheRow()
     {
         ZrTableView view;
@@ -571,6 +609,36 @@ private slots:
             QCOMPARE(headOf(f.view, each)->height(), 61);
         }
         QCOMPARE(f.table->horizontalHeader()->height(), 61);
+    }
+
+    void newSideTakesWhatTheMainTableHas_data()
+    {
+        QTest::addColumn<int>("side");
+        QTest::newRow("left") << leftSide;
+        QTest::newRow("right") << rightSide;
+    }
+
+    void newSideTakesWhatTheMainTableHas()
+    {
+        QFETCH(int, side);
+        ZrTableView view;
+        kit::setUp(&view, 5, 6);
+        // None of them what a new table has by itself.
+        view.setSelectionMode(QAbstractItemView::MultiSelection);
+        view.setSelectionBehavior(QAbstractItemView::SelectRows);
+        view.getTableView()->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+        view.setFrozenColumns(side, true, 2);
+        const QTableView *const made = sideOf(view, side);
+        QCOMPARE(made->selectionMode(), QAbstractItemView::MultiSelection);
+        QCOMPARE(made->selectionBehavior(), QAbstractItemView::SelectRows);
+        QVERIFY(made->alternatingRowColors());
+        QCOMPARE(made->verticalScrollMode(), QAbstractItemView::ScrollPerPixel);
+        QCOMPARE(made->horizontalScrollMode(), QAbstractItemView::ScrollPerPixel);
+        QCOMPARE(made->itemDelegate(), view.getTableView()->itemDelegate());
+        QCOMPARE(made->frameShape(), QFrame::NoFrame);
+        QVERIFY(!made->showGrid() && !made->hasAutoScroll());
+        QVERIFY(!made->verticalHeader()->isVisible());
+        QCOMPARE(made->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
     }
 
     void defaultSizesReachTheSides()

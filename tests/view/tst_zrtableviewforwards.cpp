@@ -1,10 +1,12 @@
 #include "ZrHeaderView_p.h"
 #include "ZrItemModelDeletage.h"
 #include "ZrItemModelDeletage_p.h"
+#include "ZrReferenceHost.h"
 #include "ZrTableModel_p.h"
 #include "ZrTestMain.h"
 #include "ZrViewTestKit.h"
 
+#include <QtCore/QTemporaryDir>
 #include <QtWidgets/QLabel>
 
 /// The members of the facade that hand on to a part, and the little that they add.
@@ -86,6 +88,33 @@ private slots:
         view.setAlwaysDisplayLatest(true);
         view.addRecordData(kit::record(QStringLiteral("new"), 3));
         QTRY_VERIFY(bar->value() > 0);
+        view.setAlwaysDisplayLatest(false);
+        bar->setValue(0);
+        view.addRecordData(kit::record(QStringLiteral("newer"), 3));
+        QCoreApplication::processEvents();
+        QCOMPARE(bar->value(), 0);
+    }
+
+    void latestRowIsShownOfAnotherModelToo()
+    {
+        ZrTableView view;
+        kit::setUp(&view, 60, 3);
+        QScrollBar *const bar = view.getTableView()->verticalScrollBar();
+        view.setAlwaysDisplayLatest(true);
+        const QPointer<ZrTableModel> old = view.getZrTableModel();
+        auto *const model = new ZrTableModel(view.getTableView());
+        view.setZrTableModel(model);
+        view.setKeyColumn({0});
+        HeadList heads = kit::heads(3);
+        view.setHeadList(heads);
+        kit::fill(&view, 60, 3);
+        view.getTableView()->doItemsLayout();
+        bar->setValue(0);
+        old->addRecordData(kit::record(QStringLiteral("old"), 3)); // nobody sees that one
+        QCOMPARE(bar->value(), 0);
+        view.addRecordData(kit::record(QStringLiteral("new"), 3));
+        QTRY_COMPARE(bar->value(), bar->maximum());
+        QVERIFY(bar->maximum() > 0);
         view.setAlwaysDisplayLatest(false);
         bar->setValue(0);
         view.addRecordData(kit::record(QStringLiteral("newer"), 3));
@@ -439,6 +468,25 @@ private slots:
         QCOMPARE(view.upColor(), QColor(1, 2, 3));
         view.loadSkin(QVariant());
         QVERIFY(!view.styleSheet().isEmpty());
+    }
+
+    void newViewHasTheSheetOfTheSkinInUse()
+    {
+        QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("dark/system/zrwidget")));
+        QFile sheet(folder.filePath(QStringLiteral("dark/system/zrwidget/zrtableview.css")));
+        QVERIFY(sheet.open(QIODevice::WriteOnly));
+        const QByteArray text("ZrTableView { qproperty-itemHeight: 37; }");
+        sheet.write(text);
+        sheet.close();
+        ZrReferenceHost host;
+        ZrReferenceHost::Options options;
+        options.configFolder = folder.path();
+        options.skinRoot = folder.path();
+        options.skinId = QStringLiteral("dark");
+        QVERIFY2(host.start(options), qPrintable(host.errorText()));
+        ZrTableView view;
+        QCOMPARE(view.styleSheet(), QString::fromLatin1(text));
     }
 
     void headIsHiddenAndShownByTwoOppositeSwitches()

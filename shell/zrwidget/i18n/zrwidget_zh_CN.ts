@@ -8,7 +8,7 @@
         <translation>文件超过 %1 字节</translation>
     </message>
     <message>
-        <source>the file isn't text in its encoding</source>
+        <source>the file isn&apos;t text in its encoding</source>
         <translation>文件内容与其编码不符</translation>
     </message>
     <message>
@@ -16,7 +16,7 @@
         <translation>元素的属性超过 %1 个</translation>
     </message>
     <message>
-        <source>a document type isn't allowed</source>
+        <source>a document type isn&apos;t allowed</source>
         <translation>不允许文档类型声明</translation>
     </message>
     <message>
@@ -33,6 +33,17 @@
     <message>
         <source>request timeout</source>
         <translation>请求超时</translation>
+    </message>
+</context>
+<context>
+    <name>ZrTableModel</name>
+    <message>
+        <source>Total</source>
+        <translation>合计</translation>
+    </message>
+    <message>
+        <source>Seq.</source>
+        <translation>序号</translation>
     </message>
 </context>
 <context>

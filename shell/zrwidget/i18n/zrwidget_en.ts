@@ -1,0 +1,56 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>ZrColumnFileGuard</name>
+    <message>
+        <source>the file is larger than %1 bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file isn&apos;t text in its encoding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a document type isn&apos;t allowed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>elements are nested more than %1 deep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file has more than %1 nodes</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrPresenterClass</name>
+    <message>
+        <source>request timeout</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrTableModel</name>
+    <message>
+        <source>Total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seq.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrTableView</name>
+    <message>
+        <source>Summary of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>
