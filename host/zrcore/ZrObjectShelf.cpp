@@ -22,7 +22,7 @@ void ZrObjectShelf::setMaker(const QString &id, Maker maker)
         ZrKnownIds::remove(id);
     if (!maker || id.isEmpty())
         return;
-    m_makers.insert(id, std::move(maker));
+    m_makers.insert(id, maker);
     ZrKnownIds::insert(id);
 }
 
