@@ -138,9 +138,10 @@ void ZrBlotterPanel::recolour()
 {
     RecordDataList changes;
     const RecordDataList rows = m_view->getViewData();
+    const QList<int> keyColumns = m_view->getKeyColumn();
     for (const RecordData &row : rows) {
         RecordData change;
-        for (const int column : m_view->getKeyColumn())
+        for (const int column : keyColumns)
             change.insert(column, row.value(column));
         colourRow({{ZrClientFields::side, row.value(m_sideColumn).value(rawRole)}}, &change);
         changes.append(change);

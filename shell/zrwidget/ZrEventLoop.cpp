@@ -2,9 +2,24 @@
 
 #include <QtCore/QThread>
 
+namespace {
+
+// The last owner may be the clock, after the thread that waited has ended: nobody would run a deferred
+// deletion there any more, and nobody delivers anything to the loop either.
+void dispose(ZrEventLoop *loop)
+{
+    const QThread *const owner = loop->thread();
+    if (owner && !owner->isFinished())
+        loop->deleteLater();
+    else
+        delete loop;
+}
+
+} // namespace
+
 ZrEventLoop::Pointer ZrEventLoop::create()
 {
-    return Pointer(new ZrEventLoop, [](ZrEventLoop *loop) { loop->deleteLater(); });
+    return Pointer(new ZrEventLoop, dispose);
 }
 
 ZrEventLoop::ZrEventLoop()
