@@ -63,7 +63,11 @@ void ZrObjectShelf::addFile(const QString &path)
 
 QStringList ZrObjectShelf::ids() const
 {
-    QStringList all = m_makers.keys() + m_files.keys();
+    QStringList all;
+    for (auto maker = m_makers.cbegin(); maker != m_makers.cend(); ++maker)
+        all.append(maker.key());
+    for (auto file = m_files.cbegin(); file != m_files.cend(); ++file)
+        all.append(file.key());
     all.removeDuplicates();
     all.sort();
     return all;

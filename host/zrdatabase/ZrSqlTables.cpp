@@ -141,7 +141,7 @@ bool readTable(Runner &runner, ZrDataTable &table)
     // With the table's name before them: SQLite takes a quoted name that is no column for a text.
     const QString prefix = runner.table(table.name) + QLatin1Char('.');
     QStringList fields;
-    for (const ZrDataColumn &column : table.columns)
+    for (const ZrDataColumn &column : qAsConst(table.columns))
         fields.append(prefix + runner.field(column.name));
     QSqlQuery query(runner.database());
     if (!runner.run(query, QStringLiteral("SELECT %1 FROM %2 ORDER BY %3")
@@ -206,7 +206,8 @@ bool ZrSqlTables::write(ZrDataTables &tables, QString &reason) const
     Runner runner(connection.database, reason);
     if (!connection.database.open() || !connection.database.transaction())
         return runner.fail(connection.database.lastError());
-    for (const ZrDataTable *table : tables.all()) {
+    const auto all = tables.all();
+    for (const ZrDataTable *table : all) {
         if (!createTable(runner, *table) || !fillTable(runner, *table))
             return false;
     }
@@ -223,7 +224,8 @@ bool ZrSqlTables::read(ZrDataTables &tables, QString &reason) const
         return runner.fail(connection.database.lastError());
     if (!checkPages(runner, reason) || !checkLayout(runner, reason))
         return false;
-    for (ZrDataTable *table : tables.all()) {
+    const auto all = tables.all();
+    for (ZrDataTable *table : all) {
         if (!readTable(runner, *table))
             return false;
     }

@@ -38,9 +38,11 @@ bool isSame(const QList<T> &a, const QList<T> &b)
 bool isSame(const ViewFilterList &a, const ViewFilterList &b)
 {
     return a.isSharedWith(b) ||
-           (a.keys() == b.keys() &&
-            std::equal(a.constBegin(), a.constEnd(), b.constBegin(),
-                       [](const auto &left, const auto &right) { return isSame(left, right); }));
+           (a.size() == b.size() &&
+            std::equal(a.constKeyValueBegin(), a.constKeyValueEnd(), b.constKeyValueBegin(),
+                       [](const auto &left, const auto &right) {
+                           return left.first == right.first && isSame(left.second, right.second);
+                       }));
 }
 
 /// The filter that this thread read last. A grid tests each row of an update alone, with a filter that hardly
