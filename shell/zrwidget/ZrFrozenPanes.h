@@ -61,7 +61,8 @@ public:
     template<typename Change>
     void forEachPane(const Change &change) const
     {
-        for (QAbstractItemView *const view : paneViews())
+        const QList<QAbstractItemView *> views = paneViews();
+        for (QAbstractItemView *const view : views)
             change(view);
     }
     QList<QAbstractItemView *> paneViews() const;
