@@ -6,7 +6,7 @@
 
 namespace {
 constexpr int OurAppends = 4000;
-constexpr int PeerAppends = 200; // each moves all rows of the standard model
+constexpr int PeerAppends = 40; // each moves all rows of the standard model
 const char *const PeerName = "QStandardItemModel, QHash, QTableView";
 
 class OurAppender
@@ -21,18 +21,17 @@ public:
     double ratePerSecond()
     {
         m_grid.load(m_records);
-        ZrBenchPacer::drain();
-        RecordDataList fresh;
-        for (int i = 0; i < OurAppends; ++i)
-            fresh.append(m_data.record(m_next++));
-        return OurAppends / secondsOf([&] {
-                   ZrBenchPacer pacer;
-                   for (const RecordData &record : fresh) {
-                       m_grid.view()->addRecordData(record);
-                       pacer.tick();
-                   }
-                   ZrBenchPacer::drain();
-               });
+        ZrBenchStopwatch::drain();
+        return ZrBenchStopwatch::rateOf(OurAppends, [&](ZrBenchStopwatch &watch) {
+            RecordDataList fresh;
+            for (int i = 0; i < ZrBenchStopwatch::HandOver; ++i)
+                fresh.append(m_data.record(m_next++));
+            watch.time([&] {
+                for (const RecordData &record : qAsConst(fresh))
+                    m_grid.view()->addRecordData(record);
+            });
+            return fresh.size();
+        });
     }
 
 private:
@@ -59,22 +58,16 @@ public:
         : m_grid(false)
     {
         m_grid.load(peerRows(ZrBenchData::Rows));
-        ZrBenchPacer::drain();
+        ZrBenchStopwatch::drain();
     }
 
     double ratePerSecond()
     {
-        QVector<ZrBenchCells> fresh;
-        for (int i = 0; i < PeerAppends; ++i)
-            fresh.append(m_data.row(m_next++));
-        return PeerAppends / secondsOf([&] {
-                   ZrBenchPacer pacer;
-                   for (const ZrBenchCells &cells : fresh) {
-                       m_grid.appendAndDropFirst(cells);
-                       pacer.tick();
-                   }
-                   ZrBenchPacer::drain();
-               });
+        return ZrBenchStopwatch::rateOf(PeerAppends, [&](ZrBenchStopwatch &watch) {
+            const ZrBenchCells cells = m_data.row(m_next++);
+            watch.time([&] { m_grid.appendAndDropFirst(cells); });
+            return 1;
+        });
     }
 
 private:
@@ -101,14 +94,14 @@ ZrBenchSides loadSides()
                 ZrBenchOurGrid grid;
                 return 1000 * secondsOf([&] {
                            grid.load(*records);
-                           ZrBenchPacer::drain();
+                           ZrBenchStopwatch::drain();
                        });
             },
             [=] {
                 ZrBenchPeerGrid grid(false);
                 return 1000 * secondsOf([&] {
                            grid.load(*rows);
-                           ZrBenchPacer::drain();
+                           ZrBenchStopwatch::drain();
                        });
             },
             {}};
