@@ -6,12 +6,24 @@
 
 namespace {
 
-using Cells = QVarLengthArray<const ItemRoleMap *, 64>;
+// Room on the stack for a block of wide rows: this must not cost an allocation.
+constexpr int CellsAtHand = ZrRecordFetch::BlockSize * 32;
+constexpr int RolesAtHand = CellsAtHand * 2;
+using Cells = QVarLengthArray<const ItemRoleMap *, CellsAtHand>;
+template<typename Iterator>
+using Ranges = QVarLengthArray<QPair<Iterator, Iterator>, CellsAtHand>;
 
 // A text lies apart from its value, any other type in it.
 int readText(const QVariant &value)
 {
     return value.userType() == QMetaType::QString ? static_cast<const QString *>(value.constData())->size() : 0;
+}
+
+// Else the compiler would leave all the reading out.
+void keep(int sum)
+{
+    volatile int isRead = sum;
+    Q_UNUSED(isRead)
 }
 
 void readCells(const Cells &cells)
@@ -23,8 +35,7 @@ void readCells(const Cells &cells)
         sum += cell->isEmpty() ? 0 : cell->constBegin()->userType();
     for (const ItemRoleMap *const cell : cells)
         sum += cell->isEmpty() ? 0 : readText(*cell->constBegin());
-    volatile int isRead = sum; // else the compiler would leave all of it out
-    Q_UNUSED(isRead)
+    keep(sum);
 }
 
 void addNamedCells(const RecordData &stored, const RecordData &incoming, Cells &cells)
@@ -37,26 +48,40 @@ void addNamedCells(const RecordData &stored, const RecordData &incoming, Cells &
     }
 }
 
-// All records' first cells, then their second ones: what leads to the next cell of a record has to be waited for.
-void readRecords(const RecordDataList &records, int first, int last)
+// What follows in a map is known only when the step before has been waited for: so all maps' first entries, then
+// their second ones.
+template<typename Iterator, typename Read>
+void stepTogether(Ranges<Iterator> &ranges, const Read &read)
 {
-    QVarLengthArray<RecordData::const_iterator, ZrRecordFetch::BlockSize> next;
-    for (int i = first; i <= last; ++i)
-        next.append(records.at(i).constBegin());
-    Cells cells;
     bool isDone = false;
     while (!isDone) {
         isDone = true;
-        for (int i = first; i <= last; ++i) {
-            RecordData::const_iterator &cell = next[i - first];
-            if (cell == records.at(i).constEnd())
+        for (auto &range : ranges) {
+            if (range.first == range.second)
                 continue;
-            cells.append(&*cell);
-            ++cell;
+            read(*range.first);
+            ++range.first;
             isDone = false;
         }
     }
-    readCells(cells);
+}
+
+bool isAny(const RecordData &)
+{
+    return true;
+}
+
+template<typename Choice>
+Cells cellsOfAll(const RecordDataList &records, int first, int last, const Choice &isChosen)
+{
+    Ranges<RecordData::const_iterator> ranges;
+    for (int i = first; i <= last; ++i) {
+        if (isChosen(records.at(i)))
+            ranges.append({records.at(i).constBegin(), records.at(i).constEnd()});
+    }
+    Cells cells;
+    stepTogether(ranges, [&cells](const ItemRoleMap &cell) { cells.append(&cell); });
+    return cells;
 }
 
 } // namespace
@@ -72,7 +97,7 @@ void ZrRecordFetch::block(const RecordDataList &records, int first, const Record
                           const ZrTableKeyIndex &index, const QList<int> &keyColumns)
 {
     const int last = qMin(first + BlockSize, records.size()) - 1;
-    readRecords(records, first, last);
+    readCells(cellsOfAll(records, first, last, isAny));
     Cells cells;
     for (int i = first; i <= last; ++i) {
         const int row = index.row(ZrTableKeyIndex::makeKey(records.at(i), keyColumns));
@@ -80,4 +105,24 @@ void ZrRecordFetch::block(const RecordDataList &records, int first, const Record
             addNamedCells(rows.at(row), records.at(i), cells);
     }
     readCells(cells);
+}
+
+void ZrRecordFetch::front(const RecordDataList &rows, const ZrTableKeyIndex &index, const QList<int> &keyColumns)
+{
+    const int last = qMin(BlockSize, rows.size()) - 1;
+    int sum = 0;
+    for (int i = 0; i <= last; ++i)
+        sum += index.row(ZrTableKeyIndex::makeKey(rows.at(i), keyColumns));
+    // A record that somebody else holds too is not freed.
+    const Cells cells = cellsOfAll(rows, 0, last, [](const RecordData &record) { return record.isDetached(); });
+    for (const ItemRoleMap *const cell : cells)
+        sum += cell->size();
+    Ranges<ItemRoleMap::const_iterator> ranges;
+    for (const ItemRoleMap *const cell : cells)
+        ranges.append({cell->constBegin(), cell->constEnd()});
+    QVarLengthArray<const QVariant *, RolesAtHand> values;
+    stepTogether(ranges, [&values](const QVariant &value) { values.append(&value); });
+    for (const QVariant *const value : values)
+        sum += readText(*value);
+    keep(sum);
 }

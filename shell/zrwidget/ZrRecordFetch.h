@@ -15,7 +15,7 @@
 namespace ZrRecordFetch {
 
 /// Records of a batch that are read ahead together.
-constexpr int BlockSize = 8;
+constexpr int BlockSize = 16;
 
 /// The cells of a stored record that an incoming one names.
 ZRWIDGET_PRIVATE_EXPORT void cellsOf(const RecordData &stored, const RecordData &incoming);
@@ -23,5 +23,10 @@ ZRWIDGET_PRIVATE_EXPORT void cellsOf(const RecordData &stored, const RecordData 
 /// `BlockSize` records of a batch from `first` on, and what they change in `rows`.
 ZRWIDGET_PRIVATE_EXPORT void block(const RecordDataList &records, int first, const RecordDataList &rows,
                                    const ZrTableKeyIndex &index, const QList<int> &keyColumns);
+
+/// The keys of the `BlockSize` records from the front on and all that is freed with them, before they leave one after
+/// the other.
+ZRWIDGET_PRIVATE_EXPORT void front(const RecordDataList &rows, const ZrTableKeyIndex &index,
+                                   const QList<int> &keyColumns);
 
 } // namespace ZrRecordFetch
