@@ -35,6 +35,12 @@ QVector<int> layoutOf(const QTableView &table)
             rows->offset(),    rows->length(),    rows->count()};
 }
 
+const QVector<int> *touchedRows(const QAbstractItemModel *model)
+{
+    const ZrTouchedRows *const source = ZrTouchedRows::of(model);
+    return source ? source->touchedRows() : nullptr;
+}
+
 } // namespace
 
 ZrLiveTable::ZrLiveTable(QWidget *parent)
@@ -59,10 +65,31 @@ void ZrLiveTable::dataChanged(const QModelIndex &topLeft, const QModelIndex &bot
     QTableView::dataChanged(topLeft, bottomRight, roles);
 }
 
+void ZrLiveTable::setModel(QAbstractItemModel *newModel)
+{
+    if (model() && model() != newModel)
+        disconnect(model(), &QAbstractItemModel::modelAboutToBeReset, this, &ZrLiveTable::noteMarks);
+    QTableView::setModel(newModel);
+    if (newModel)
+        connect(newModel, &QAbstractItemModel::modelAboutToBeReset, this, &ZrLiveTable::noteMarks,
+                Qt::UniqueConnection);
+}
+
+// Indexes are invalid when reset() runs.
+void ZrLiveTable::noteMarks()
+{
+    m_marked = QRegion();
+    if (!touchedRows(model()))
+        return;
+    if (selectionModel())
+        m_marked = visualRegionForSelection(selectionModel()->selection());
+    if (currentIndex().isValid())
+        m_marked += visualRect(currentIndex());
+}
+
 void ZrLiveTable::reset()
 {
-    const ZrTouchedRows *const source = ZrTouchedRows::of(model());
-    const QVector<int> *const rows = source ? source->touchedRows() : nullptr;
+    const QVector<int> *const rows = touchedRows(model());
     // A widget over a cell goes with the reset, and what it covered has to be painted.
     if (rows && verticalHeader() == m_rowHead && viewport()->children().isEmpty())
         resetInPlace(*rows);
@@ -74,8 +101,6 @@ void ZrLiveTable::resetInPlace(const QVector<int> &touchedRows)
 {
     executeDelayedItemsLayout(); // what was outstanding is painted as ever
     const QVector<int> layout = layoutOf(*this);
-    const QItemSelection selected = selectionModel() ? selectionModel()->selection() : QItemSelection();
-    const QModelIndex current = currentIndex();
     {
         const PaintRequestsDropped dropped(viewport());
         QTableView::reset();
@@ -87,10 +112,7 @@ void ZrLiveTable::resetInPlace(const QVector<int> &touchedRows)
     }
     for (const int row : touchedRows)
         updateRow(row);
-    for (const QItemSelectionRange &range : selected)
-        setDirtyRegion(visualRegionForSelection(QItemSelection(range.topLeft(), range.bottomRight())));
-    if (current.isValid())
-        updateRow(current.row());
+    viewport()->update(m_marked);
 }
 
 void ZrLiveTable::updateRow(int row)

@@ -2,6 +2,7 @@
 
 #include "zrwidget_global.h"
 
+#include <QtGui/QRegion>
 #include <QtWidgets/QTableView>
 
 class ZrRowHeader;
@@ -20,6 +21,7 @@ class ZRWIDGET_EXPORT ZrLiveTable : public QTableView
 public:
     explicit ZrLiveTable(QWidget *parent = nullptr);
 
+    void setModel(QAbstractItemModel *model) override;
     void reset() override;
 
 protected:
@@ -31,5 +33,8 @@ private:
     void resetInPlace(const QVector<int> &touchedRows);
     void updateRow(int row);
 
+    void noteMarks();
+
     ZrRowHeader *m_rowHead;
+    QRegion m_marked; // of selection and current row before the reset under way, which ends both
 };

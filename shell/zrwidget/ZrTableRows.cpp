@@ -227,7 +227,14 @@ void ZrTableRows::replaceAll(const RecordDataList &records)
 
 void ZrTableRows::rebuild()
 {
-    m_fields.keyToRow.rebuild(m_fields.modelData, m_fields.keyColumns);
+    m_fields.keyToRow.markStale();
+    refilter();
+}
+
+void ZrTableRows::refilter()
+{
+    if (!m_fields.keyToRow.isExact())
+        m_fields.keyToRow.rebuild(m_fields.modelData, m_fields.keyColumns);
     if (hasKeys() && m_fields.filterable)
         refreshDisplay();
 }

@@ -37,6 +37,8 @@ public:
 
     /// The key map anew; in filter mode the display list as well.
     void rebuild();
+    /// What rebuild() gives while the rows are as they were.
+    void refilter();
     void refreshDisplay();
     /// The key map alone.
     void renumber();
