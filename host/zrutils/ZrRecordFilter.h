@@ -25,6 +25,7 @@ public:
     RecordDataList passing(const RecordDataList &records) const;
 
 private:
+    static constexpr int BlockSize = 16; // records read ahead together
     using Group = std::vector<ZrFilterCondition>;
     struct Column
     {
@@ -34,6 +35,7 @@ private:
         std::vector<Group> groups;
     };
     void addColumn(int number, const QList<QList<QVariantMap>> &groups, ZrValueKind kind);
+    void readAhead(const RecordDataList &records, int first) const;
     static bool passesColumn(const Column &column, const RecordData &record);
     static bool passesGroup(const Group &group, const QVariant &value);
 
