@@ -53,6 +53,7 @@ private slots:
     void anOwnHeightSettlesWhatIsOwed();
     void hiddenRowsMoveWithTheirRow();
     void aResetAndAnotherModelCountAnew();
+    void theSameModelAgainChangesNothing();
     void rowsBelowAnotherRowAreNotOurs();
     void everySequenceEndsAtThePlacesOfThePlainHead();
 };
@@ -147,6 +148,16 @@ void tst_ZrRowHeader::aResetAndAnotherModelCountAnew()
     QTRY_COMPARE(tables.ours.verticalHeader()->count(), 3);
     tables.ours.setModel(nullptr);
     QCOMPARE(tables.ours.verticalHeader()->count(), 0);
+}
+
+void tst_ZrRowHeader::theSameModelAgainChangesNothing()
+{
+    Tables tables(6);
+    tables.ours.setRowHeight(2, 44);
+    tables.ours.verticalHeader()->setModel(&tables.model);
+    QCOMPARE(tables.ours.rowHeight(2), 44);
+    tables.append(); // told once, not once by each time
+    QCOMPARE(tables.ours.verticalHeader()->count(), 7);
 }
 
 void tst_ZrRowHeader::rowsBelowAnotherRowAreNotOurs()

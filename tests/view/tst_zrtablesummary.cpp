@@ -199,6 +199,38 @@ private slots:
         QCOMPARE(sumText(view, 1), QStringLiteral("10"));
     }
 
+    void serialColumnThatComesLaterMovesTheSumsToo()
+    {
+        Summed s;
+        s.view.setSerialNumberColumnPropety(ZrViewModel::SerialNumDescending);
+        const ZrTableModel *const model = s.view.getPrivate()->summaryModel;
+        QCOMPARE(model->columnCount(), 4);
+        QCOMPARE(model->index(0, 0).data().toString(), QStringLiteral("Total"));
+        QCOMPARE(model->index(0, 2).data().toString(), QStringLiteral("10"));
+    }
+
+    void minimumWidthHoldsInTheSummaryAfterAColumnCame()
+    {
+        Summed s;
+        s.view.setColumnMinimumWidth(60);
+        s.view.setCheckBoxShow(true);
+        const ZrTableViewPrivate *const d = s.view.getPrivate();
+        QCOMPARE(d->summaryHeader->minimumSectionSize(), 60);
+        for (int column = 0; column < 4; ++column)
+            QCOMPARE(d->summaryHeader->sectionSize(column), d->header->sectionSize(column));
+    }
+
+    void aNumberThatDoesNotFitLeavesTheOtherSumsRight()
+    {
+        Summed s;
+        s.view.updataRecordData({{0, kit::cell(QStringLiteral("k0"))}, {1, kit::cell(1e300)}});
+        QCOMPARE(sumText(s.view, 2), QStringLiteral("14"));
+        s.view.updataRecordData({{0, kit::cell(QStringLiteral("k0"))}, {2, kit::cell(102)}});
+        QCOMPARE(sumText(s.view, 2), QStringLiteral("114"));
+        s.view.updataRecordData({{0, kit::cell(QStringLiteral("k0"))}, {1, kit::cell(1)}});
+        QCOMPARE(sumText(s.view, 1), QStringLiteral("10"));
+    }
+
     void checkBoxComesToTheSummaryWithoutABoxInItsRow()
     {
         Summed s;
