@@ -55,23 +55,16 @@ ZrBenchCells ZrBenchData::row(int number)
     return cells;
 }
 
+ItemRoleMap ZrBenchData::toRoles(const ZrBenchCell &cell)
+{
+    return {{ITEM_DISPLAYROLE, cell.text}, {ITEM_USERROLE, cell.raw}};
+}
+
 RecordData ZrBenchData::toRecord(const ZrBenchCells &cells)
 {
     RecordData record;
     for (int column = 0; column < cells.size(); ++column)
-        record.insert(column,
-                      {{ITEM_DISPLAYROLE, cells.at(column).text}, {ITEM_USERROLE, cells.at(column).raw}});
-    return record;
-}
-
-RecordData ZrBenchData::toRecord(const ZrBenchUpdate &update)
-{
-    RecordData record;
-    record.insert(KeyColumn, {{ITEM_DISPLAYROLE, update.key}, {ITEM_USERROLE, update.key}});
-    for (int i = 0; i < update.columns.size(); ++i) {
-        const ZrBenchCell &cell = update.cells.at(i);
-        record.insert(update.columns.at(i), {{ITEM_DISPLAYROLE, cell.text}, {ITEM_USERROLE, cell.raw}});
-    }
+        record.insert(column, toRoles(cells.at(column)));
     return record;
 }
 
@@ -89,19 +82,16 @@ RecordDataList ZrBenchData::records(int count)
     return list;
 }
 
-QVector<ZrBenchUpdate> ZrBenchData::updates(int count, int rows, bool priceToo)
+RecordDataList ZrBenchData::updates(int count, int rows, bool priceToo)
 {
-    QVector<ZrBenchUpdate> updates;
+    RecordDataList updates;
     updates.reserve(count);
     for (int i = 0; i < count; ++i) {
-        ZrBenchUpdate update;
-        update.row = int(m_random() % uint(rows));
-        update.key = keyOf(update.row);
+        const QString key = keyOf(int(m_random() % uint(rows)));
+        RecordData update = {{KeyColumn, toRoles({key, key})}};
         const int first = priceToo ? PriceColumn : PriceColumn + 1 + int(m_random() % (DoubleColumns - 3));
-        for (int column = first; column < first + 3; ++column) {
-            update.columns.append(column);
-            update.cells.append(doubleCell(price()));
-        }
+        for (int column = first; column < first + 3; ++column)
+            update.insert(column, toRoles(doubleCell(price())));
         updates.append(update);
     }
     return updates;

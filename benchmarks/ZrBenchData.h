@@ -16,15 +16,6 @@ struct ZrBenchCell
 
 using ZrBenchCells = QVector<ZrBenchCell>;
 
-/// An update: the row and three of its number columns with new values.
-struct ZrBenchUpdate
-{
-    int row = 0;
-    QString key;
-    QVector<int> columns;
-    ZrBenchCells cells;
-};
-
 /// The measured table: 5 texts (the first is the key), 11 doubles, 3 integers, 1 time. The same seed gives
 /// the same table; every text is a string of its own, as it is when rows come from messages.
 class ZrBenchData
@@ -49,14 +40,15 @@ public:
     ZrBenchCells row(int number);
     RecordData record(int number);
     RecordDataList records(int count);
-    /// Updates of random rows among `rows`. With `priceToo` the filtered column is one of the three.
-    QVector<ZrBenchUpdate> updates(int count, int rows, bool priceToo = false);
+    /// The key and three changed cells for each of `count` random rows among `rows`. With `priceToo` the filtered
+    /// column is one of the three.
+    RecordDataList updates(int count, int rows, bool priceToo = false);
 
     static RecordData toRecord(const ZrBenchCells &cells);
-    static RecordData toRecord(const ZrBenchUpdate &update);
     static HeadList heads(int columns = Columns);
 
 private:
+    static ItemRoleMap toRoles(const ZrBenchCell &cell);
     QString word(int length);
     double price();
 

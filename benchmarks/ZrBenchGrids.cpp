@@ -1,6 +1,7 @@
 #include "ZrBenchGrids.h"
 
 #include "ZrBench.h"
+#include "ZrRoleKeys.h"
 #include "ZrTableModel.h"
 #include "ZrTableView.h"
 
@@ -23,35 +24,35 @@ QString styleSheet()
     QFile file(QStringLiteral(ZR_BENCH_STYLE_SHEET));
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
-
-QMap<int, QVariant> rolesOf(const ZrBenchCell &cell)
-{
-    return {{Qt::DisplayRole, cell.text}, {Qt::UserRole, cell.raw}};
-}
 } // namespace
 
-ZrBenchPacer::ZrBenchPacer()
-    : m_lastSeconds(threadSeconds())
+void ZrBenchStopwatch::time(const std::function<void()> &operations)
 {
+    m_seconds += secondsOf(operations);
+    if (m_seconds - m_servedSeconds < FrameSeconds)
+        return;
+    m_seconds += secondsOf([] { QCoreApplication::processEvents(); });
+    m_servedSeconds = m_seconds;
 }
 
-void ZrBenchPacer::tick(int operations)
+double ZrBenchStopwatch::rateOf(int atLeast, const std::function<int(ZrBenchStopwatch &)> &handOver)
 {
-    constexpr int OperationsPerLook = 16;
-    m_operations += operations;
-    if (m_operations < OperationsPerLook)
-        return;
-    m_operations = 0;
-    if (threadSeconds() - m_lastSeconds < FrameSeconds)
-        return;
-    QCoreApplication::processEvents();
-    m_lastSeconds = threadSeconds();
+    ZrBenchStopwatch watch;
+    int operations = 0;
+    while (operations < atLeast)
+        operations += handOver(watch);
+    watch.time(drain);
+    return operations / watch.seconds();
 }
 
-void ZrBenchPacer::drain()
+void ZrBenchStopwatch::drain()
 {
-    QCoreApplication::sendPostedEvents();
-    QCoreApplication::processEvents();
+    // A row that came makes a layout due, a layout asks for a paint, and each waits for its own turn.
+    constexpr int Turns = 3;
+    for (int turn = 0; turn < Turns; ++turn) {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
 }
 
 ViewFilterList tenthFilter()
@@ -76,7 +77,7 @@ ZrBenchOurGrid::ZrBenchOurGrid(int columns)
     m_view->setStyleSheet(styleSheet());
     m_view->resize(WindowSize);
     m_view->show();
-    ZrBenchPacer::drain();
+    ZrBenchStopwatch::drain();
 }
 
 ZrBenchOurGrid::~ZrBenchOurGrid() = default;
@@ -121,8 +122,9 @@ ZrBenchPeerGrid::ZrBenchPeerGrid(bool withProxy, int columns)
     : m_view(new QTableView)
     , m_columns(columns)
 {
-    // As ours: no grid and no frame of the toolkit, fixed low rows, pixels sideways.
-    m_view->setShowGrid(false);
+    // As ours to look at: lines between the cells, alternating rows, no frame, low rows, pixels sideways.
+    m_view->setShowGrid(true);
+    m_view->setAlternatingRowColors(true);
     m_view->setFrameShape(QFrame::NoFrame);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
     m_view->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -137,7 +139,7 @@ ZrBenchPeerGrid::ZrBenchPeerGrid(bool withProxy, int columns)
     installModel(std::make_unique<QStandardItemModel>(0, columns));
     m_view->resize(WindowSize);
     m_view->show();
-    ZrBenchPacer::drain();
+    ZrBenchStopwatch::drain();
 }
 
 ZrBenchPeerGrid::~ZrBenchPeerGrid() = default;
@@ -182,15 +184,19 @@ void ZrBenchPeerGrid::load(const QVector<ZrBenchCells> &rows)
     installModel(std::move(model));
 }
 
-void ZrBenchPeerGrid::apply(const ZrBenchUpdate &update)
+void ZrBenchPeerGrid::apply(const RecordData &update)
 {
-    const auto found = m_rowOfKey.constFind(update.key);
+    const QString key = update.value(ZrBenchData::KeyColumn).value(ITEM_DISPLAYROLE).toString();
+    const auto found = m_rowOfKey.constFind(key);
     if (found == m_rowOfKey.constEnd())
         return;
-    for (int i = 0; i < update.columns.size(); ++i) {
+    for (auto cell = update.constBegin(); cell != update.constEnd(); ++cell) {
+        if (cell.key() == ZrBenchData::KeyColumn)
+            continue;
         // Both roles at once: one signal per cell.
-        const QModelIndex index = m_model->index(found.value() - m_dropped, update.columns.at(i));
-        m_model->setItemData(index, rolesOf(update.cells.at(i)));
+        const QMap<int, QVariant> roles = {{Qt::DisplayRole, cell->value(ITEM_DISPLAYROLE)},
+                                           {Qt::UserRole, cell->value(ITEM_USERROLE)}};
+        m_model->setItemData(m_model->index(found.value() - m_dropped, cell.key()), roles);
     }
 }
 

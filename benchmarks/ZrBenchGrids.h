@@ -5,6 +5,7 @@
 #include <QtCore/QHash>
 #include <QtCore/QSortFilterProxyModel>
 
+#include <functional>
 #include <memory>
 
 class QStandardItem;
@@ -12,19 +13,25 @@ class QStandardItemModel;
 class QTableView;
 class ZrTableView;
 
-/// Serves the event loop every 16 ms of processor time, as a screen of 60 Hz asks for, between the operations
-/// of a burst.
-class ZrBenchPacer
+/// Times the operations of a burst between which data are made, and serves the event loop after every 16 ms of
+/// them, as a screen of 60 Hz asks for. What the event loop does counts, what the data cost doesn't.
+class ZrBenchStopwatch
 {
 public:
-    ZrBenchPacer();
-    void tick(int operations = 1);
+    /// Operations whose data are made at once: few, so that they come to the grid as fresh as from the bus.
+    static constexpr int HandOver = 20;
+
+    void time(const std::function<void()> &operations);
+    double seconds() const { return m_seconds; }
+
+    /// Operations a second. `handOver` makes the data of some, times them, and says how many they were.
+    static double rateOf(int atLeast, const std::function<int(ZrBenchStopwatch &)> &handOver);
     /// All that is outstanding, paints included.
     static void drain();
 
 private:
-    double m_lastSeconds;
-    int m_operations = 0; // since the clock was last looked at, which takes a system call
+    double m_seconds = 0;
+    double m_servedSeconds = 0; // m_seconds when the event loop last turned
 };
 
 /// Our grid in a window of 1400 x 800.
@@ -70,7 +77,8 @@ public:
     QTableView *view() const { return m_view.get(); }
     ZrBenchPriceFilter *proxy() const { return m_proxy.get(); }
     void load(const QVector<ZrBenchCells> &rows);
-    void apply(const ZrBenchUpdate &update);
+    /// The record as our grid gets it, cell by cell with both roles at once.
+    void apply(const RecordData &update);
     /// Appends a row and drops the first one.
     void appendAndDropFirst(const ZrBenchCells &cells);
 

@@ -23,7 +23,7 @@ double ourBytesPerRow()
         ZrBenchData data;
         grid.load(data.records(Rows));
     }
-    ZrBenchPacer::drain();
+    ZrBenchStopwatch::drain();
     return (heapBytes() - before) / Rows;
 }
 
@@ -39,7 +39,7 @@ double peerBytesPerRow()
             rows.append(data.row(row));
         grid.load(rows);
     }
-    ZrBenchPacer::drain();
+    ZrBenchStopwatch::drain();
     return (heapBytes() - before) / Rows;
 }
 } // namespace

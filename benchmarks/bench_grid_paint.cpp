@@ -28,7 +28,7 @@ public:
         }
         m_ours.load(records);
         m_peer.load(cells);
-        ZrBenchPacer::drain();
+        ZrBenchStopwatch::drain();
     }
     QTableView *ours() const { return m_ours.view()->getTableView(); }
     QTableView *peer() const { return m_peer.view(); }
@@ -50,11 +50,11 @@ double scrollMs(QTableView *table)
 {
     QScrollBar *bar = table->verticalScrollBar();
     bar->setValue(0);
-    ZrBenchPacer::drain();
+    ZrBenchStopwatch::drain();
     return 1000 / Pages * secondsOf([&] {
                for (int i = 0; i < Pages; ++i) {
                    bar->triggerAction(QAbstractSlider::SliderPageStepAdd);
-                   ZrBenchPacer::drain();
+                   ZrBenchStopwatch::drain();
                }
            });
 }

@@ -59,7 +59,7 @@ public:
         }
         m_ours.load(m_bare);
         m_peer.load(cells);
-        ZrBenchPacer::drain();
+        ZrBenchStopwatch::drain();
     }
 
     // Each starts from the order of another column, so that no side sorts what is sorted already.
@@ -82,19 +82,19 @@ public:
     {
         m_ours.view()->setViewFilterable(true);
         m_ours.showAll();
-        ZrBenchPacer::drain();
+        ZrBenchStopwatch::drain();
         return 1000 * secondsOf([&] {
                    m_ours.filterTenth();
-                   ZrBenchPacer::drain();
+                   ZrBenchStopwatch::drain();
                });
     }
     double peerFilterMs()
     {
         m_peer.proxy()->setBounds(0, ZrBenchData::MostPrice);
-        ZrBenchPacer::drain();
+        ZrBenchStopwatch::drain();
         return 1000 * secondsOf([&] {
                    m_peer.proxy()->setBounds(0, ZrBenchData::MostPrice / 10);
-                   ZrBenchPacer::drain();
+                   ZrBenchStopwatch::drain();
                });
     }
 
@@ -102,12 +102,12 @@ private:
     void ourSort(int column)
     {
         m_ours.view()->setSortIndicator(column, Qt::AscendingOrder);
-        ZrBenchPacer::drain();
+        ZrBenchStopwatch::drain();
     }
     void peerSort(int column)
     {
         m_peer.view()->sortByColumn(column, Qt::AscendingOrder);
-        ZrBenchPacer::drain();
+        ZrBenchStopwatch::drain();
     }
 
     ZrBenchOurGrid m_ours;

@@ -22,49 +22,33 @@ public:
     {
         ZrBenchData data;
         grid.load(data.records(rows));
-        ZrBenchPacer::drain();
+        ZrBenchStopwatch::drain();
     }
 
     double ratePerSecond(bool priceToo = false)
     {
-        const RecordDataList updates = nextUpdates(priceToo);
-        return updates.size() / secondsOf([&] {
-                   ZrBenchPacer pacer;
-                   for (const RecordData &update : updates) {
-                       grid.view()->updataRecordData(update);
-                       pacer.tick();
-                   }
-                   ZrBenchPacer::drain();
-               });
+        return ZrBenchStopwatch::rateOf(UpdatesPerRound, [&](ZrBenchStopwatch &watch) {
+            const RecordDataList updates = m_data.updates(ZrBenchStopwatch::HandOver, m_rows, priceToo);
+            watch.time([&] {
+                for (const RecordData &update : updates)
+                    grid.view()->updataRecordData(update);
+            });
+            return updates.size();
+        });
     }
 
     double batchRatePerSecond()
     {
-        const RecordDataList updates = nextUpdates(false);
-        QVector<RecordDataList> batches;
-        for (int first = 0; first < updates.size(); first += BatchSize)
-            batches.append(updates.mid(first, BatchSize));
-        return updates.size() / secondsOf([&] {
-                   ZrBenchPacer pacer;
-                   for (const RecordDataList &batch : batches) {
-                       grid.view()->updataRecordDatas(batch);
-                       pacer.tick(batch.size());
-                   }
-                   ZrBenchPacer::drain();
-               });
+        return ZrBenchStopwatch::rateOf(UpdatesPerRound, [&](ZrBenchStopwatch &watch) {
+            const RecordDataList batch = m_data.updates(BatchSize, m_rows, false);
+            watch.time([&] { grid.view()->updataRecordDatas(batch); });
+            return batch.size();
+        });
     }
 
     ZrBenchOurGrid grid;
 
 private:
-    RecordDataList nextUpdates(bool priceToo)
-    {
-        RecordDataList records;
-        records.reserve(UpdatesPerRound);
-        for (const ZrBenchUpdate &update : m_data.updates(UpdatesPerRound, m_rows, priceToo))
-            records.append(ZrBenchData::toRecord(update));
-        return records;
-    }
     ZrBenchData m_data{7};
     int m_rows;
 };
@@ -82,21 +66,20 @@ public:
         for (int row = 0; row < rows; ++row)
             cells.append(data.row(row));
         grid.load(cells);
-        ZrBenchPacer::drain();
+        ZrBenchStopwatch::drain();
     }
 
-    double ratePerSecond(bool priceToo = false)
+    double ratePerSecond(bool priceToo = false, int handOver = ZrBenchStopwatch::HandOver)
     {
         const int count = priceToo ? FilteredPeerUpdates : UpdatesPerRound;
-        const QVector<ZrBenchUpdate> updates = m_data.updates(count, m_rows, priceToo);
-        return updates.size() / secondsOf([&] {
-                   ZrBenchPacer pacer;
-                   for (const ZrBenchUpdate &update : updates) {
-                       grid.apply(update);
-                       pacer.tick();
-                   }
-                   ZrBenchPacer::drain();
-               });
+        return ZrBenchStopwatch::rateOf(count, [&](ZrBenchStopwatch &watch) {
+            const RecordDataList updates = m_data.updates(handOver, m_rows, priceToo);
+            watch.time([&] {
+                for (const RecordData &update : updates)
+                    grid.apply(update);
+            });
+            return updates.size();
+        });
     }
 
     ZrBenchPeerGrid grid;
@@ -115,7 +98,7 @@ OurMaker ourMaker(int rows, const std::function<void(OurUpdates &)> &setUp = {})
         auto fixture = std::make_shared<OurUpdates>(rows);
         if (setUp)
             setUp(*fixture);
-        ZrBenchPacer::drain();
+        ZrBenchStopwatch::drain();
         return fixture;
     });
 }
@@ -125,7 +108,7 @@ PeerMaker filteredPeerMaker(int rows)
     return zrLazily<PeerUpdates>([rows] {
         auto fixture = std::make_shared<PeerUpdates>(rows, true);
         fixture->grid.proxy()->setBounds(0, ZrBenchData::MostPrice / 10);
-        ZrBenchPacer::drain();
+        ZrBenchStopwatch::drain();
         return fixture;
     });
 }
@@ -184,7 +167,9 @@ ZrBenchCases gridUpdateBenches()
             const auto ours = plain();
             const auto other = peer();
             return ZrBenchSides{
-                [=] { return ours->batchRatePerSecond(); }, [=] { return other->ratePerSecond(); }, {}};
+                [=] { return ours->batchRatePerSecond(); },
+                                [=] { return other->ratePerSecond(false, BatchSize); },
+                                {}};
         }};
     const ZrBenchCase sizes = {
         {"grid/update_filtered_size", Unit, true, {}, "the same at 10,000 rows", ZrBenchRow::None, 1 / 1.5},

@@ -8,6 +8,7 @@
 #include "feed/ZrFeedClock.h"
 #include "ZrClientFields.h"
 #include "ZrColumnTexts.h"
+#include "ZrOrderBatch.h"
 
 #include "zrcore/ZrCore.h"
 #include "zrdefine/VexlorFields.h"
@@ -47,6 +48,7 @@ ZrBlotterPanel::ZrBlotterPanel(const QString &columnFile, QWidget *parent)
     m_grid = translated(ZrParseTableColsCfg::parseGridConfigure(columnFile));
     m_sideColumn = columnOf(ZrClientFields::side);
     m_statusColumn = columnOf(ZrClientFields::orderStatus);
+    m_keyFields = keyFields();
     applyColumns();
     m_view->SetAlternatingRowColors(true);
     m_view->setItemGridShow(true);
@@ -76,6 +78,17 @@ int ZrBlotterPanel::columnOf(const QString &field) const
             return setting.index;
     }
     return -1;
+}
+
+QStringList ZrBlotterPanel::keyFields() const
+{
+    QStringList result;
+    const QList<ZrFieldSetting> fields = m_grid.getFieldSetList();
+    for (const ZrFieldSetting &field : fields) {
+        if (field.keyColumn)
+            result.append(field.fieldNumber);
+    }
+    return result;
 }
 
 void ZrBlotterPanel::applyColumns()
@@ -151,31 +164,38 @@ void ZrBlotterPanel::recolour()
 
 void ZrBlotterPanel::applyMessages(const std::vector<ZrInboxMessage> &messages)
 {
+    const ZrOrderBatch batch(messages, m_keyFields);
     RecordDataList rows;
-    rows.reserve(int(messages.size()));
-    for (const ZrInboxMessage &message : messages) {
+    rows.reserve(int(batch.records().size()));
+    for (const QVariantMap &record : batch.records()) {
         RecordData row;
-        ZrTablePropertySet::setTableSingleRecordData(m_grid, message.record, row);
-        colourRow(message.record, &row);
+        ZrTablePropertySet::setTableSingleRecordData(m_grid, record, row);
+        colourRow(record, &row);
         rows.append(row);
     }
     m_view->addRecordDataList(rows);
-    m_updates += rows.size();
-    noteTimes(messages, rows);
+    m_updates += qint64(messages.size());
+    noteTimes(messages, batch, rows);
 }
 
-void ZrBlotterPanel::noteTimes(const std::vector<ZrInboxMessage> &messages, const RecordDataList &rows)
+void ZrBlotterPanel::noteTimes(const std::vector<ZrInboxMessage> &messages, const ZrOrderBatch &batch,
+                               const RecordDataList &rows)
 {
     const qint64 nowNs = ZrSteadyClock::steadyNs();
     const QTableView *const table = m_view->getTableView();
     const int first = table->rowAt(0);
     const int last = table->rowAt(table->viewport()->height() - 1);
-    for (int i = 0; i < rows.size(); ++i) {
-        const qint64 sentNs = messages[size_t(i)].record.value(ZrClientFields::sentNs).toLongLong();
-        m_toModel.add(nowNs - sentNs);
+    std::vector<bool> inSight;
+    inSight.reserve(size_t(rows.size()));
+    for (const RecordData &record : rows) {
         // Only a row in sight is shown by the next frame; no row at the bottom edge means all fit.
-        const int row = m_view->getRowByKey(ZrTablePropertySet::getRecordKeyString(m_grid, rows.at(i)));
-        if (row >= 0 && row >= first && (last < 0 || row <= last))
+        const int row = m_view->getRowByKey(ZrTablePropertySet::getRecordKeyString(m_grid, record));
+        inSight.push_back(row >= 0 && row >= first && (last < 0 || row <= last));
+    }
+    for (size_t i = 0; i < messages.size(); ++i) {
+        const qint64 sentNs = messages[i].record.value(ZrClientFields::sentNs).toLongLong();
+        m_toModel.add(nowNs - sentNs);
+        if (inSight[batch.recordOf(i)])
             m_unshownNs.push_back(sentNs);
     }
 }

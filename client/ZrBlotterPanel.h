@@ -7,6 +7,7 @@
 #include <QtWidgets/QWidget>
 #include <zrutils/ZrRecordTypes.h>
 
+class ZrOrderBatch;
 class ZrTableView;
 
 /// The order blotter: orders and their reports in a grid, live.
@@ -46,14 +47,17 @@ private:
     ZrGridSetting translated(const ZrGridSetting &grid) const;
     void colourRow(const QVariantMap &message, RecordData *row) const;
     void recolour();
-    void noteTimes(const std::vector<ZrInboxMessage> &messages, const RecordDataList &rows);
+    void noteTimes(const std::vector<ZrInboxMessage> &messages, const ZrOrderBatch &batch,
+                   const RecordDataList &rows);
     QList<int> columnsWithoutSum() const;
     int columnOf(const QString &field) const;
+    QStringList keyFields() const;
 
     ZrGridSetting m_grid;
     ZrTableView *m_view;
     int m_sideColumn = -1;
     int m_statusColumn = -1;
+    QStringList m_keyFields; // fields of a message that name its order
     qint64 m_updates = 0;
     qint64 m_frames = 0;
     ZrLatencyMeter m_toModel;

@@ -25,7 +25,7 @@ class ZrMessageInbox : public QObject
 {
     Q_OBJECT
 public:
-    static constexpr int MaxBatch = 1000;
+    static constexpr int MaxBatch = 2000;
     static constexpr int FrameMs = 16;
 
     explicit ZrMessageInbox(QObject *parent = nullptr);

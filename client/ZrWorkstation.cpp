@@ -64,6 +64,8 @@ QString ZrWorkstation::start()
     makeWindow();
     connectBus();
     m_window->show();
+    // The first picture costs more than any later one: a feed that had begun would wait for it.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     startFeed();
     return QString();
 }

@@ -11,7 +11,7 @@ endforeach()
 zr_host_library(zrutils SOURCES hostapi/zrutils/ZrThread.h host/zrutils/ZrThread.cpp)
 
 set(ZR_THREAD_UNITS
-    ZrWaitCondition.cpp ZrEventLoop.cpp ZrRequestMessage.cpp ZrPresenterCalls.cpp ZrIncomingMessage.cpp
+    ZrWaitCondition.cpp ZrAnswerSpin.cpp ZrEventLoop.cpp ZrRequestMessage.cpp ZrPresenterCalls.cpp ZrIncomingMessage.cpp
     ZrPresenterClass.cpp ZrPresenterClass_p.cpp)
 list(TRANSFORM ZR_THREAD_UNITS PREPEND shell/zrwidget/)
 add_library(zrwidget SHARED ${ZR_THREAD_UNITS})

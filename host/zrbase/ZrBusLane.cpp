@@ -1,5 +1,7 @@
 #include "ZrBusLane.h"
 
+#include "ZrShortSpin.h"
+
 #include <atomic>
 #include <condition_variable>
 #include <mutex>
@@ -10,7 +12,10 @@ struct ZrBusLane::Queue
     std::mutex mutex;
     std::condition_variable wake;
     std::vector<Work> work;
-    std::atomic<bool> stopping{false}; // written under the mutex; read between two pieces of work
+    // Written under the mutex, read between two pieces of work.
+    std::atomic<bool> stopping{false};
+    std::atomic<bool> filled{false}; // there is work
+    std::atomic<int> poster{-1};     // the processor on which another thread gave the last piece
 };
 
 ZrBusLane::ZrBusLane()
@@ -36,6 +41,9 @@ bool ZrBusLane::post(Work &&work)
             return false;
         wasEmpty = m_queue->work.empty();
         m_queue->work.push_back(std::move(work));
+        m_queue->filled = true;
+        if (!isCurrentThread())
+            m_queue->poster = ZrShortSpin::currentProcessor();
     }
     if (wasEmpty)
         m_queue->wake.notify_one();
@@ -61,11 +69,14 @@ bool ZrBusLane::isCurrentThread() const
 void ZrBusLane::drain(const std::shared_ptr<Queue> &queue)
 {
     std::vector<Work> batch;
+    ZrShortSpin spin;
     while (!queue->stopping) {
+        spin.wait(queue->poster, [&queue] { return queue->filled || queue->stopping; });
         {
             std::unique_lock<std::mutex> lock(queue->mutex);
             queue->wake.wait(lock, [&queue] { return queue->stopping || !queue->work.empty(); });
             batch.swap(queue->work);
+            queue->filled = false;
         }
         for (Work &work : batch) {
             if (queue->stopping)

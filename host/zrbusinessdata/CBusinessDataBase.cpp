@@ -11,20 +11,11 @@ namespace Security = Vexlor_Fields::Security;
 namespace {
 using Record = QMap<QString, QVariant>;
 
-/// The account's record, narrowed to `fields`; the whole record when that is empty. A product or an investor
-/// stands over several trading accounts: its details must not name one of them.
-Record accountDetails(const QString &numberField, const QString &number, const QStringList &fields)
+Record accountDetails(const QString &numberField, const QString &number)
 {
     const auto snapshot = ZrDataStore::snapshot();
-    const Record *account = snapshot->account(numberField, number);
-    if (!account || fields.isEmpty())
-        return account ? *account : Record();
-    Record narrowed;
-    for (const QString &field : fields) {
-        if (account->contains(field))
-            narrowed.insert(field, account->value(field));
-    }
-    return narrowed;
+    const Record *details = snapshot->accountDetails(numberField, number);
+    return details ? *details : Record();
 }
 
 QString withoutDot(const QString &post)
@@ -105,28 +96,22 @@ QString CBusinessDataBase::GetLoginAccountType() const
 
 QMap<QString, QVariant> CBusinessDataBase::GetAccountDetailsByTradinngAccount(const QString &account) const
 {
-    return accountDetails(UserAccount::tradingAccount, account, QStringList());
+    return accountDetails(UserAccount::tradingAccount, account);
 }
 
 QMap<QString, QVariant> CBusinessDataBase::GetAccountDetailsByProductAccount(const QString &account) const
 {
-    return accountDetails(ZrDataFields::productAccount, account,
-                          {ZrDataFields::productAccount, UserAccount::productName,
-                           ZrDataFields::investAccount, UserAccount::investorName});
+    return accountDetails(ZrDataFields::productAccount, account);
 }
 
 QMap<QString, QVariant> CBusinessDataBase::GetAccountDetailsByInvestAccount(const QString &account) const
 {
-    return accountDetails(ZrDataFields::investAccount, account,
-                          {ZrDataFields::investAccount, UserAccount::investorName});
+    return accountDetails(ZrDataFields::investAccount, account);
 }
 
 QMap<QString, QVariant> CBusinessDataBase::GetAccountDetailsByAssertAccount(const QString &account) const
 {
-    return accountDetails(UserAccount::assetAccount, account,
-                          {UserAccount::assetAccount, UserAccount::assetAccountName,
-                           ZrDataFields::productAccount, UserAccount::productName,
-                           ZrDataFields::investAccount, UserAccount::investorName, Security::systemNodeId});
+    return accountDetails(UserAccount::assetAccount, account);
 }
 
 QStringList CBusinessDataBase::GetTradeAccountList(const QStringList &authorities) const

@@ -8,6 +8,16 @@ const QVariantMap *placeOf(const QVector<QVariantMap> &records, int place)
 {
     return place < 0 ? nullptr : &records.at(place);
 }
+
+QVariantMap narrowedTo(const QVariantMap &record, const QStringList &fields)
+{
+    QVariantMap narrowed;
+    for (const QString &field : fields) {
+        if (record.contains(field))
+            narrowed.insert(field, record.value(field));
+    }
+    return narrowed;
+}
 } // namespace
 
 ZrDataSnapshot::ZrDataSnapshot(ZrDataContents contents)
@@ -36,16 +46,29 @@ void ZrDataSnapshot::indexSecurities()
 
 void ZrDataSnapshot::indexAccounts()
 {
-    const QString fields[] = {Vexlor_Fields::UserAccount::tradingAccount,
-                              Vexlor_Fields::UserAccount::assetAccount, ZrDataFields::productAccount,
-                              ZrDataFields::investAccount};
-    for (const QString &field : fields) {
-        QHash<QString, int> &places = m_numbers[field];
-        for (int i = 0; i < m_contents.accounts.size(); ++i) {
-            const QString number = m_contents.accounts.at(i).value(field).toString();
-            if (!number.isEmpty() && !places.contains(number))
-                places.insert(number, i);
-        }
+    namespace User = Vexlor_Fields::UserAccount;
+    const QStringList investor = {ZrDataFields::investAccount, User::investorName};
+    const QStringList product = QStringList{ZrDataFields::productAccount, User::productName} + investor;
+    const QStringList asset =
+        QStringList{User::assetAccount, User::assetAccountName, Vexlor_Fields::Security::systemNodeId} +
+        product;
+    indexAccountsBy(User::tradingAccount, QStringList());
+    indexAccountsBy(User::assetAccount, asset);
+    indexAccountsBy(ZrDataFields::productAccount, product);
+    indexAccountsBy(ZrDataFields::investAccount, investor);
+}
+
+void ZrDataSnapshot::indexAccountsBy(const QString &field, const QStringList &details)
+{
+    QHash<QString, int> &places = m_numbers[field];
+    QHash<QString, QVariantMap> &narrowed = m_details[field];
+    for (int i = 0; i < m_contents.accounts.size(); ++i) {
+        const QVariantMap &account = m_contents.accounts.at(i);
+        const QString number = account.value(field).toString();
+        if (number.isEmpty() || places.contains(number))
+            continue;
+        places.insert(number, i);
+        narrowed.insert(number, details.isEmpty() ? account : narrowedTo(account, details));
     }
 }
 
@@ -66,4 +89,13 @@ const QVariantMap *ZrDataSnapshot::account(const QString &field, const QString &
 {
     const auto places = m_numbers.constFind(field);
     return places == m_numbers.constEnd() ? nullptr : placeOf(m_contents.accounts, places->value(number, -1));
+}
+
+const QVariantMap *ZrDataSnapshot::accountDetails(const QString &field, const QString &number) const
+{
+    const auto numbers = m_details.constFind(field);
+    if (numbers == m_details.constEnd())
+        return nullptr;
+    const auto found = numbers->constFind(number);
+    return found == numbers->constEnd() ? nullptr : &*found;
 }

@@ -34,13 +34,19 @@ public:
     const QVariantMap *security(const QString &symbol, const QString &post = QString()) const;
     /// The first account whose `field` holds that number; the four account number fields are indexed.
     const QVariantMap *account(const QString &field, const QString &number) const;
+    /// That account's record, narrowed to what is true of all accounts of the number: a product or an
+    /// investor stands over several trading accounts, and its details must not name one of them.
+    const QVariantMap *accountDetails(const QString &field, const QString &number) const;
 
 private:
     void indexSecurities();
     void indexAccounts();
+    void indexAccountsBy(const QString &field, const QStringList &details);
 
     ZrDataContents m_contents;
-    QHash<QString, int> m_symbols;                 // full symbol to place
-    QHash<QString, int> m_codes;                   // bare code to the first place
-    QHash<QString, QHash<QString, int>> m_numbers; // account field to number to the first place
+    QHash<QString, int> m_symbols;                         // full symbol to place
+    QHash<QString, int> m_codes;                           // bare code to the first place
+    QHash<QString, QHash<QString, int>> m_numbers;         // account field to number to the first place
+    QHash<QString, QHash<QString, QVariantMap>> m_details; // the same to its narrowed record: a grid asks
+                                                           // for it in each row
 };

@@ -2,7 +2,6 @@
 
 #include "ZrFrozenPanes.h"
 #include "ZrFrozenSide.h"
-#include "ZrRowHeader.h"
 #include "ZrScrollCoupling.h"
 #include "ZrTableView_p.h"
 
@@ -20,11 +19,10 @@ ZrHeaderHost::Side sideOf(int side)
 } // namespace
 
 FreezeTableView::FreezeTableView(QWidget *parent)
-    : QTableView(parent)
+    : ZrLiveTable(parent)
     , m_panes(new ZrFrozenPanes(this, &m_grid))
 {
-    setVerticalHeader(new ZrRowHeader(this));
-    QTableView::setAlternatingRowColors(true);
+    ZrLiveTable::setAlternatingRowColors(true);
     m_panes->attachMainHead();
     connect(verticalHeader(), &QHeaderView::sectionResized, this, &FreezeTableView::updateSectionHeight);
     connect(this, &QAbstractItemView::pressed, this, &FreezeTableView::slotClicked);
@@ -60,7 +58,7 @@ void FreezeTableView::relayFrozenTables()
 
 void FreezeTableView::setModel(QAbstractItemModel *model)
 {
-    QTableView::setModel(model);
+    ZrLiveTable::setModel(model);
     m_panes->attachModel();
 }
 
@@ -68,56 +66,56 @@ void FreezeTableView::setHorizontalHeader(QHeaderView *header)
 {
     if (!header || header == horizontalHeader())
         return;
-    QTableView::setHorizontalHeader(header);
+    ZrLiveTable::setHorizontalHeader(header);
     m_panes->attachMainHead();
     m_panes->relay();
 }
 
 void FreezeTableView::setColumnHidden(int column, bool hide)
 {
-    QTableView::setColumnHidden(column, hide);
+    ZrLiveTable::setColumnHidden(column, hide);
     m_panes->relay();
 }
 
 void FreezeTableView::setCurrentIndex(const QModelIndex &index)
 {
-    QTableView::setCurrentIndex(index);
+    ZrLiveTable::setCurrentIndex(index);
     m_panes->makeCurrentInPanes(index);
 }
 
 void FreezeTableView::setSelectionMode(QAbstractItemView::SelectionMode mode)
 {
-    QTableView::setSelectionMode(mode);
+    ZrLiveTable::setSelectionMode(mode);
     m_panes->forEachPane([mode](QAbstractItemView *pane) { pane->setSelectionMode(mode); });
 }
 
 void FreezeTableView::setSelectionBehavior(QAbstractItemView::SelectionBehavior behavior)
 {
-    QTableView::setSelectionBehavior(behavior);
+    ZrLiveTable::setSelectionBehavior(behavior);
     m_panes->forEachPane([behavior](QAbstractItemView *pane) { pane->setSelectionBehavior(behavior); });
 }
 
 void FreezeTableView::setVerticalScrollMode(QAbstractItemView::ScrollMode mode)
 {
-    QTableView::setVerticalScrollMode(mode);
+    ZrLiveTable::setVerticalScrollMode(mode);
     m_panes->forEachPane([mode](QAbstractItemView *pane) { pane->setVerticalScrollMode(mode); });
 }
 
 void FreezeTableView::setHorizontalScrollMode(QAbstractItemView::ScrollMode mode)
 {
-    QTableView::setHorizontalScrollMode(mode);
+    ZrLiveTable::setHorizontalScrollMode(mode);
     m_panes->forEachPane([mode](QAbstractItemView *pane) { pane->setHorizontalScrollMode(mode); });
 }
 
 void FreezeTableView::setItemDelegate(QAbstractItemDelegate *delegate)
 {
-    QTableView::setItemDelegate(delegate);
+    ZrLiveTable::setItemDelegate(delegate);
     m_panes->forEachPane([delegate](QAbstractItemView *pane) { pane->setItemDelegate(delegate); });
 }
 
 void FreezeTableView::setAlternatingRowColors(bool enable)
 {
-    QTableView::setAlternatingRowColors(enable);
+    ZrLiveTable::setAlternatingRowColors(enable);
     m_panes->forEachPane([enable](QAbstractItemView *pane) { pane->setAlternatingRowColors(enable); });
 }
 
@@ -181,7 +179,7 @@ void FreezeTableView::updateParts()
 void FreezeTableView::scrollTo(const QModelIndex &index, ScrollHint hint)
 {
     if (index.column() >= 0)
-        QTableView::scrollTo(index, hint);
+        ZrLiveTable::scrollTo(index, hint);
 }
 
 bool FreezeTableView::eventFilter(QObject *watched, QEvent *event)
@@ -193,12 +191,12 @@ bool FreezeTableView::eventFilter(QObject *watched, QEvent *event)
         if (isPart && m_panes->handleKey(static_cast<QKeyEvent *>(event), part))
             return true;
     }
-    return QTableView::eventFilter(watched, event);
+    return ZrLiveTable::eventFilter(watched, event);
 }
 
 void FreezeTableView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
-    QTableView::currentChanged(current, previous);
+    ZrLiveTable::currentChanged(current, previous);
     // Also when nobody clicked: after a reset the model makes the row current in this table alone.
     if (current.isValid())
         m_panes->makeCurrentInPanes(current);
@@ -242,7 +240,7 @@ void FreezeTableView::setValue(int value)
 
 QModelIndex FreezeTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
-    const QModelIndex target = QTableView::moveCursor(action, modifiers);
+    const QModelIndex target = ZrLiveTable::moveCursor(action, modifiers);
     const QTableView *const left = frozenTable(int(ZrHeaderHost::Side::Left));
     if (action != MoveLeft || !left || target.column() <= 0)
         return target;
@@ -258,7 +256,7 @@ QModelIndex FreezeTableView::moveCursor(CursorAction action, Qt::KeyboardModifie
 void FreezeTableView::keyPressEvent(QKeyEvent *event)
 {
     const QPersistentModelIndex before = currentIndex();
-    QTableView::keyPressEvent(event);
+    ZrLiveTable::keyPressEvent(event);
     // Auto scroll is off, because a live grid must not jump; a key of the user may move it.
     if (currentIndex().isValid() && before != currentIndex())
         scrollTo(currentIndex());
@@ -266,6 +264,6 @@ void FreezeTableView::keyPressEvent(QKeyEvent *event)
 
 void FreezeTableView::resizeEvent(QResizeEvent *event)
 {
-    QTableView::resizeEvent(event);
+    ZrLiveTable::resizeEvent(event);
     m_panes->place();
 }

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "ZrFrozenTable.h"
+#include "ZrLiveTable.h"
 #include "zrwidget_global.h"
-
-#include <QtWidgets/QTableView>
 
 class ZrFrozenPanes;
 class ZrTableViewPrivate;
@@ -16,7 +15,7 @@ class ZrTableViewPrivate;
 /// Ownership: normal QWidget parent rules; the side tables are children of our parent widget.
 /// Threads:   GUI thread only.
 /// Errors:    without setTablePrivate() nothing can be frozen.
-class ZRWIDGET_EXPORT FreezeTableView : public QTableView
+class ZRWIDGET_EXPORT FreezeTableView : public ZrLiveTable
 {
     Q_OBJECT
 public:

@@ -1,5 +1,7 @@
 #include "ZrEventLoop.h"
 
+#include "ZrAnswerSpin.h"
+
 #include <QtCore/QThread>
 
 namespace {
@@ -31,8 +33,19 @@ ZrEventLoop::~ZrEventLoop() = default;
 
 void ZrEventLoop::run()
 {
-    if (!m_hasEnded)
-        exec();
+    if (m_hasEnded)
+        return;
+    // What one thread learns about its answers holds for all its requests.
+    static thread_local ZrAnswerSpin spin;
+    spin.wait([this] { return m_isEnding.load(); });
+    exec();
+    spin.setPartner(m_partner);
+}
+
+void ZrEventLoop::announceEnd()
+{
+    m_partner = ZrAnswerSpin::currentProcessor();
+    m_isEnding = true;
 }
 
 void ZrEventLoop::finish()
@@ -41,6 +54,7 @@ void ZrEventLoop::finish()
         end();
         return;
     }
+    announceEnd(); // first: what is posted below may be the last that anybody knows of this loop
     // Queued: the other thread may be between its look at m_hasEnded and exec(), which forgets an earlier
     // quit.
     QMetaObject::invokeMethod(

@@ -6,6 +6,7 @@
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
+#include <atomic>
 #include <memory>
 
 /// The nested event loop in which a synchronous request waits for its answer.
@@ -37,6 +38,8 @@ public:
     void run();
     /// Ends the wait without an answer, begun or not.
     void finish();
+    /// From any thread: what ends the wait has been posted to the loop, which need not go to sleep for it.
+    void announceEnd();
     /// What names this loop in signalSyncResponse.
     qlonglong address() const;
 
@@ -48,4 +51,6 @@ public slots:
 private:
     void end();
     bool m_hasEnded = false; // own thread only
+    std::atomic<bool> m_isEnding{false};
+    std::atomic<int> m_partner{-1}; // the processor on which the end was announced
 };

@@ -1,6 +1,6 @@
 #include "ZrFrozenTable.h"
 
-#include "ZrRowHeader.h"
+#include "ZrLiveTable.h"
 
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QTableView>
@@ -25,8 +25,7 @@ void copyRowHeights(const QHeaderView *from, QHeaderView *to)
 
 QAbstractItemView *ZrFrozenTable::createSide(QWidget *parent) const
 {
-    QTableView *const side = new QTableView(parent);
-    side->setVerticalHeader(new ZrRowHeader(side));
+    QTableView *const side = new ZrLiveTable(parent);
     side->verticalHeader()->hide();
     return side;
 }

@@ -111,6 +111,7 @@ bool ZrIncomingMessage::answerSync()
             loop->result = ZrRequestRejected;
     }
     emit d->signalSyncResponse(loop->address(), m_msg);
+    loop->announceEnd();
     return true;
 }
 

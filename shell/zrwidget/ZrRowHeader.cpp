@@ -72,6 +72,14 @@ bool ZrRowHeader::isUniform() const
     return !m_hasOwnSizes && !sectionsMoved() && !sectionsHidden();
 }
 
+bool ZrRowHeader::isInSight(int row, int heightPx) const
+{
+    if (!isUniform())
+        return true;
+    const qint64 topPx = qint64(row) * defaultSectionSize() - offset();
+    return topPx < heightPx && topPx + defaultSectionSize() > 0;
+}
+
 void ZrRowHeader::owe()
 {
     // The rows under the sections are others now: the table lays out and paints anew, once for all of them.

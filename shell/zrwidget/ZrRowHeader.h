@@ -24,6 +24,10 @@ public:
 
     void setModel(QAbstractItemModel *model) override;
 
+    /// Whether a part of the row lies within the first `heightPx` below the head's offset. True where finding out
+    /// would cost more than it saves.
+    bool isInSight(int row, int heightPx) const;
+
 private:
     void followRemoval(const QModelIndex &parent, int first, int last);
     void followInsertion(const QModelIndex &parent, int first, int last);

@@ -1,5 +1,6 @@
 #include "ZrTableMerge.h"
 
+#include "ZrRecordFetch.h"
 #include "ZrTableSums.h"
 
 namespace {
@@ -41,9 +42,12 @@ bool bringsNothing(const ItemRoleMap &have, const ItemRoleMap &cell)
     return true;
 }
 
+} // namespace
+
 // An update names neighbouring columns more often than not: the next cell is looked at before one is
 // searched.
-RecordData::const_iterator findCell(const RecordData &record, RecordData::const_iterator last, int column)
+RecordData::const_iterator ZrTableMerge::findCell(const RecordData &record, RecordData::const_iterator last,
+                                                   int column)
 {
     if (last != record.constEnd() && last.key() < column) {
         ++last;
@@ -53,13 +57,12 @@ RecordData::const_iterator findCell(const RecordData &record, RecordData::const_
     return record.constFind(column);
 }
 
-} // namespace
-
 // Looks before it writes: a stored record may be shared with the caller who read or gave it, and an update
 // that brings nothing new must not cost a copy.
 void ZrTableMerge::merge(RecordData &stored, const RecordData &incoming, ZrTableSums *sums,
                          ZrChangedColumns &changed)
 {
+    ZrRecordFetch::cellsOf(stored, incoming);
     RecordData::const_iterator last = qAsConst(stored).constEnd();
     for (auto it = incoming.constBegin(); it != incoming.constEnd(); ++it) {
         const int column = it.key();

@@ -421,7 +421,7 @@ void ZrTableModel::removeColumnMatchFilterFunction(const int &column)
 void ZrTableModel::resetViewCurrentFilterList(const ViewFilterList &filters)
 {
     d->viewFilterList = filters;
-    d->rows().rebuild();
+    d->rows().refilter();
 }
 
 ViewFilterList ZrTableModel::getViewCurrentFilterList() const

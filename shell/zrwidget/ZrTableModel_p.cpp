@@ -7,6 +7,7 @@
 #include "ZrTableSumText.h"
 #include "zrutils/ZrCommonUtils.h"
 
+#include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QTableView>
 
 ZrTableModelPrivate::ZrTableModelPrivate(ZrTableModel *facade)
@@ -183,9 +184,14 @@ void ZrTableModelPrivate::resetViews()
     model->endResetModel();
 }
 
-void ZrTableModelPrivate::resetViewsKeeping(const QString &key)
+void ZrTableModelPrivate::resetViewsKeeping(const QString &key, const QVector<int> *touchedRows)
 {
-    resetViews();
+    {
+        // Rows that a view hasn't been told of yet are new to it.
+        const bool isKnown = m_toldRows == shownRowCount() && m_toldColumns == headList.size();
+        const QScopedValueRollback<const QVector<int> *> told(m_touchedRows, isKnown ? touchedRows : nullptr);
+        resetViews();
+    }
     QTableView *view = parentView();
     if (!view || key.isEmpty())
         return;

@@ -6,6 +6,7 @@
 #include "ZrTableKeyIndex.h"
 #include "ZrTableModel.h"
 #include "ZrTableSums.h"
+#include "ZrTouchedRows.h"
 #include "zrutils/ZrRecordTypes.h"
 #include "ZrViewModel.h"
 #include "zrwidget_global.h"
@@ -28,10 +29,12 @@ class ZrTableRows;
 ///            and check state change through the verbs only, since counters and indexes go along with them.
 /// Ownership: child of its model; keeps no pointer to a view.
 /// Threads:   GUI thread only.
-class ZRWIDGET_PRIVATE_EXPORT ZrTableModelPrivate : public QObject, public ZrColumnOffsets
+class ZRWIDGET_PRIVATE_EXPORT ZrTableModelPrivate : public QObject,
+                                                  public ZrColumnOffsets,
+                                                  public ZrTouchedRows
 {
     Q_OBJECT
-    Q_INTERFACES(ZrColumnOffsets)
+    Q_INTERFACES(ZrColumnOffsets ZrTouchedRows)
 public:
     explicit ZrTableModelPrivate(ZrTableModel *facade);
     ~ZrTableModelPrivate() override;
@@ -124,8 +127,9 @@ public:
     /// Key of the parent view's current row; empty without one.
     QString currentRowKey() const;
     void resetViews();
-    /// A reset that keeps the row with the key current.
-    void resetViewsKeeping(const QString &key);
+    /// A reset that keeps the row with the key current. `touchedRows`: see ZrTouchedRows.
+    void resetViewsKeeping(const QString &key, const QVector<int> *touchedRows = nullptr);
+    const QVector<int> *touchedRows() const override { return m_touchedRows; }
     void beginInsert(int first, int last);
     void endInsert();
     /// The row -1 stands for a row that wasn't shown.
@@ -155,6 +159,7 @@ private:
     QModelIndexList parkedPlaces(const QModelIndexList &indexes) const;
 
     std::unique_ptr<ZrTableRows> m_rows;
+    const QVector<int> *m_touchedRows = nullptr; // during a reset that is about them
     int m_toldRows = 0;
     int m_toldColumns = 0;
     bool m_isParking = false;

@@ -1,5 +1,6 @@
 #include "ZrTableRows.h"
 
+#include "ZrRecordFetch.h"
 #include "ZrRoleKeys.h"
 #include "ZrTableFilter.h"
 #include "ZrTableModel_p.h"
@@ -133,6 +134,10 @@ void ZrTableRows::dropFront(int count)
     const int dropped = qMin(count, m_fields.modelData.size());
     const bool follows = hasKeys() && canFollow();
     for (int i = 0; i < dropped; ++i) {
+        if (m_readAhead-- <= 0) {
+            ZrRecordFetch::front(m_fields.modelData, m_fields.keyToRow, m_fields.keyColumns);
+            m_readAhead = ZrRecordFetch::BlockSize - 1;
+        }
         const RecordData record = m_fields.modelData.takeFirst();
         m_fields.checkCounter.rowRemoved(0, m_fields.modelData.size());
         if (follows)
@@ -222,7 +227,14 @@ void ZrTableRows::replaceAll(const RecordDataList &records)
 
 void ZrTableRows::rebuild()
 {
-    m_fields.keyToRow.rebuild(m_fields.modelData, m_fields.keyColumns);
+    m_fields.keyToRow.markStale();
+    refilter();
+}
+
+void ZrTableRows::refilter()
+{
+    if (!m_fields.keyToRow.isExact())
+        m_fields.keyToRow.rebuild(m_fields.modelData, m_fields.keyColumns);
     if (hasKeys() && m_fields.filterable)
         refreshDisplay();
 }

@@ -37,6 +37,8 @@ public:
 
     /// The key map anew; in filter mode the display list as well.
     void rebuild();
+    /// What rebuild() gives while the rows are as they were.
+    void refilter();
     void refreshDisplay();
     /// The key map alone.
     void renumber();
@@ -63,4 +65,5 @@ private:
 
     ZrTableModelPrivate &m_fields;
     bool m_marksStale = false; // a new column type may change what the filter says of earlier rows
+    int m_readAhead = 0; // rows at the front that ZrRecordFetch has read
 };

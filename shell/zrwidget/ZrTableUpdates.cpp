@@ -1,5 +1,6 @@
 #include "ZrTableUpdates.h"
 
+#include "ZrRecordFetch.h"
 #include "ZrRoleKeys.h"
 #include "ZrTableModel_p.h"
 #include "ZrTableRows.h"
@@ -142,23 +143,42 @@ int ZrTableUpdates::positionForKey(int row) const
     return display.size();
 }
 
+bool ZrTableUpdates::enterOrLeave(const Change &change)
+{
+    if (change.position >= 0 && !change.isMatch)
+        leave(change);
+    else if (change.position < 0 && change.isMatch)
+        enter(change);
+    else
+        return false;
+    return true;
+}
+
 void ZrTableUpdates::updateMany(const RecordDataList &records)
 {
+    QVector<int> touched; // view rows, while the rows shown stay the same
     bool isChanged = false;
+    bool isMoved = false;
     const QString current = m_fields.currentRowKey();
-    for (const RecordData &record : records) {
-        const Change change = merge(record);
+    for (int i = 0; i < records.size(); ++i) {
+        if (i % ZrRecordFetch::BlockSize == 0)
+            ZrRecordFetch::block(records, i, m_fields.modelData, m_fields.keyToRow, m_fields.keyColumns);
+        const Change change = merge(records.at(i));
         if (change.row < 0)
             continue;
         isChanged = true;
-        if (m_fields.filterable && change.position >= 0 && !change.isMatch)
-            leave(change);
-        else if (m_fields.filterable && change.position < 0 && change.isMatch)
-            enter(change);
+        if (!m_fields.filterable)
+            touched.append(change.row);
+        else if (change.position >= 0 && change.isMatch)
+            touched.append(change.position);
+        else
+            isMoved = enterOrLeave(change) || isMoved;
     }
     if (!isChanged)
         return;
-    m_fields.resetViewsKeeping(current);
+    // A row whose key changed may be shown elsewhere or twice.
+    const bool isSame = !isMoved && m_fields.rows().canFollow();
+    m_fields.resetViewsKeeping(current, isSame ? &touched : nullptr);
     if (m_fields.checkBoxShown)
         m_fields.updateHeadCheckState();
 }

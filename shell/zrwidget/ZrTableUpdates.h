@@ -29,6 +29,8 @@ private:
     void mergeCells(RecordData &stored, const RecordData &record, bool isCounted, ZrChangedColumns &changed);
     void tellCells(int row, const ZrChangedColumns &columns, const RecordData &record);
     void tellFiltered(const Change &change, const RecordData &record);
+    /// Whether the row came or went; true makes the rows shown others than before.
+    bool enterOrLeave(const Change &change);
     void leave(const Change &change);
     void enter(const Change &change);
     int positionForKey(int row) const;
