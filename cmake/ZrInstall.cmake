@@ -21,6 +21,8 @@ install(TARGETS zrwidget zr_hostapi EXPORT zrwidgetTargets
 if(ZR_HOST STREQUAL "reference")
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/hostapi/ DESTINATION ${zr_header_dir}/hostapi FILES_MATCHING PATTERN "*.h")
     install(FILES ${PROJECT_SOURCE_DIR}/host/ZrReferenceHost.h DESTINATION ${zr_header_dir}/host)
+    # What the plugin files are made of that the reference host loads from a folder.
+    install(FILES ${PROJECT_SOURCE_DIR}/host/zrcore/ZrCorePlugin.h DESTINATION ${zr_header_dir}/host/zrcore)
     target_include_directories(zrreferencehost INTERFACE $<INSTALL_INTERFACE:${zr_header_dir}/host>)
     set_target_properties(zrreferencehost PROPERTIES EXPORT_NAME referencehost)
     set_target_properties(${zr_host_names} zrreferencehost PROPERTIES INSTALL_RPATH "$ORIGIN")

@@ -45,7 +45,7 @@ void readDay(ZrJsonFields *fields, ZrFeedTime *time)
     const QString date = fields->text(QStringLiteral("date"));
     if (!date.isEmpty())
         time->date = QDate::fromString(date, Qt::ISODate);
-    if (!time->date.isValid())
+    if (!ZrFeedTime::fits(time->date))
         fields->complain(QStringLiteral("date"), QStringLiteral("a day such as \"2023-02-01\" is wanted"));
     const QString zone = fields->text(QStringLiteral("timeZone"));
     if (!zone.isEmpty())

@@ -121,7 +121,7 @@ bool ZrFeedTime::readCompact(const QByteArray &text, qint64 *timeNs) const
     qint64 midnightNs = m_midnightNs;
     if (digits && text.size() >= 14) {
         const QDate day = QDate::fromString(QString::fromLatin1(text.left(8)), QStringLiteral("yyyyMMdd"));
-        digits = day.isValid();
+        digits = fits(day);
         midnightNs = digits ? midnightOf(day) : 0;
         clock = text.mid(8);
     }
@@ -163,7 +163,7 @@ bool ZrFeedTime::readIso(const QByteArray &text, qint64 *timeNs) const
     const QDate day = QDate::fromString(QString::fromLatin1(text.left(10)), Qt::ISODate);
     int at = 11;
     qint64 sinceMidnightNs = 0;
-    if (!day.isValid() || day.year() < 1700 || day.year() > 2200 || !readClock(text, &at, &sinceMidnightNs))
+    if (!fits(day) || !readClock(text, &at, &sinceMidnightNs))
         return false;
     if (at == text.size()) {
         *timeNs = midnightOf(day) + sinceMidnightNs;

@@ -31,6 +31,8 @@ public:
     QDate date = QDate(1970, 1, 1);
     QTimeZone zone = QTimeZone::utc();
 
+    /// Whether the times of a day fit into nanoseconds since 1970; those of all days of 1700 to 2200 do.
+    static bool fits(const QDate &day) { return day.isValid() && day.year() >= 1700 && day.year() <= 2200; }
     /// To be called once after the fields are set: finds the midnight that times count from.
     void prepare();
     bool read(const QByteArray &text, qint64 *timeNs) const;

@@ -50,14 +50,12 @@ qint64 saturatedDifference(qint64 left, qint64 right)
     return left - right;
 }
 
+// A step is a digit and zeros, so it is never the smallest integer and its negative fits.
 qint64 saturatedStep(qint64 start, qint64 step, int times)
 {
     qint64 result = start;
-    for (int i = 0; i < times; ++i) {
-        if (step == std::numeric_limits<qint64>::min())
-            return step;
+    for (int i = 0; i < times; ++i)
         result = saturatedDifference(result, -step);
-    }
     return result;
 }
 

@@ -167,6 +167,8 @@ void tst_ZrFeedDescriptionReader::whatIsWrongIsOneSentenceThatNamesTheKey_data()
         "no file before this one is \"z.csv\"");
     row("date", R"({"date": "2023-02-30", "files": []})",
         "key \"date\": a day such as \"2023-02-01\" is wanted");
+    row("date that nanoseconds cannot reach", R"({"date": "7939-02-01", "files": []})",
+        "key \"date\": a day such as \"2023-02-01\" is wanted");
     row("zone", R"({"timeZone": "Mars/Olympus", "files": []})",
         "key \"timeZone\": there is no time zone \"Mars/Olympus\"");
     row("security twice", withKey("security", R"({"column": "S", "constant": "X"})"),

@@ -100,6 +100,13 @@ void tst_ZrNumberRanges::doublesAreCutAtRoundSteps_data()
         << QVariantList({0.0, 190.0, 10.0, 20.0, 30.0, 40.0})
         << QStringList({range("0", "30"), range("30", "60"), range("60", "90"), range("90", "120"),
                         range("120", "150"), range("150", "180"), range("180", "210")});
+    QTest::newRow("last range stretched over the steps that rounding lost")
+        << QVariantList({0.0, 119.4, 10.0, 20.0, 30.0, 40.0})
+        << QStringList({range("0", "10"), range("10", "20"), range("20", "30"), range("30", "40"),
+                        range("40", "50"), range("50", "60"), range("60", "120")});
+    // Each range's ends count as equal, while those of all values together do not.
+    QTest::newRow("far from zero no range is left")
+        << QVariantList({1e14, 1e14 + 300, 1e14, 1e14, 1e14, 1e14}) << QStringList();
     QTest::newRow("a step that rounds up to ten is lost")
         << QVariantList({0.0, 19.8}) << QStringList(range("0.00", "20.00"));
     QTest::newRow("invalid, endless and undefined values are skipped")
@@ -156,6 +163,9 @@ void tst_ZrNumberRanges::hostileNumbersGiveFewRanges_data()
     QTest::newRow("endless") << QVariantList({qInf(), -qInf()});
     QTest::newRow("undefined") << QVariantList({qQNaN(), qQNaN()});
     QTest::newRow("words") << QVariantList({"abc", "", "1e999", "nan"});
+    // As texts the plus sign comes first, so the greatest number is the smallest text.
+    QTest::newRow("signed words at the ends")
+        << QVariantList({"-9000000000000000000", "+9000000000000000000"});
     QTest::newRow("invalid") << QVariantList({QVariant(), QVariant()});
     QTest::newRow("mixed") << QVariantList(
         {QDate(2024, 1, 1), 1, "x", 2.5, QVariantList({1}), QByteArray("9")});

@@ -284,6 +284,9 @@ void TestZrPresenterClassPrivate::afterTheEndNothingIsSent()
         QCOMPARE(presenter->sendRequest_Sync_Block(msg.get(), response, 1), -3);
         QCOMPARE(ZrBus::instance().counters().total().put, before);
     }
+    // The last call is over, the deletion posted: nobody is let in any more.
+    presenter->SubResponse(pid, QStringLiteral("Late"), 1);
+    QVERIFY(!d->responseTypes.contains(QStringLiteral("Late")));
     QVERIFY(vanishing.wait());
     presenter = nullptr;
 }

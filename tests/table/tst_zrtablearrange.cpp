@@ -305,6 +305,10 @@ private slots:
         QTest::newRow("nearly equal")
             << QVariantList{0.3, 0.1 + 0.2, 1.0, 1.0 - 1e-14} << QVariantList{0.3, 1.0};
         QTest::newRow("mixed kinds") << QVariantList{"1", 1, "2"} << QVariantList{"1", "2"};
+        QTest::newRow("days") << QVariantList{QDate(2024, 1, 2), QDate(2024, 1, 1), QDate(2024, 1, 2)}
+                              << QVariantList{QDate(2024, 1, 2), QDate(2024, 1, 1)};
+        QTest::newRow("a day and a number")
+            << QVariantList{1, QDate(2024, 1, 1), 1} << QVariantList{1, QDate(2024, 1, 1)};
         QTest::newRow("not a number") << QVariantList{qInf(), qInf()} << QVariantList{qInf(), qInf()};
     }
 
@@ -321,6 +325,16 @@ private slots:
         for (const ItemRoleMap &cell : ZrTableCandidates::distinctCells(rows, 0))
             found.append(cell.value("256"));
         QCOMPARE(found, expected);
+    }
+
+    void cellsWithoutAValueAreOneCandidate()
+    {
+        const ItemRoleMap coloured = {{"9", QColor(Qt::red)}};
+        const ItemRoleMap priced = {{"256", 5}};
+        const RecordDataList rows{{{0, coloured}},      {{0, priced}}, {{0, coloured}},
+                                  {{0, ItemRoleMap()}}, {{0, priced}}, {{0, ItemRoleMap()}}};
+        QCOMPARE(ZrTableCandidates::distinctCells(rows, 0),
+                 (QList<ItemRoleMap>{coloured, priced, ItemRoleMap()}));
     }
 
     void candidatesAndFilterDataAreReachedThroughTheFields()

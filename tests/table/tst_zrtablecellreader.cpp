@@ -204,6 +204,17 @@ private slots:
         alone.resetColumnSections();
     }
 
+    void aCellWithoutAHeadReadsNothing()
+    {
+        ZrTableFixture t;
+        t.model->addRecordData(t.row("a", 5));
+        const QModelIndex number = t.model->index(0, 2);
+        QCOMPARE(number.data().toString(), QString("5"));
+        t.model->setHeaderData(ZrTableFixture::heads().mid(0, 2));
+        QVERIFY(!t.model->data(number, Qt::DisplayRole).isValid()); // an index of before
+        QVERIFY(!t.model->data(QModelIndex(), Qt::DisplayRole).isValid());
+    }
+
     void cellsAreEnabledAndNeverEditable()
     {
         ZrTableFixture t;

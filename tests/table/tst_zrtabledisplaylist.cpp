@@ -55,6 +55,31 @@ private slots:
         QCOMPARE(list.invariantError(), QString());
     }
 
+    // A grid at its row limit: each row that comes sends the oldest one away.
+    void aWindowThatSlidesForEverStaysRight()
+    {
+        constexpr int rows = 100;
+        const auto isShownNumber = [](int number) { return number % 3 == 0 || number % 7 == 0; };
+        QVector<bool> marks;
+        for (int number = 0; number < rows; ++number)
+            marks.append(isShownNumber(number));
+        ZrTableDisplayList list;
+        list.assign(marks);
+        for (int number = rows; number < 20000; ++number) {
+            list.dropFront(1);
+            list.appendRow(isShownNumber(number));
+            marks.removeFirst();
+            marks.append(isShownNumber(number));
+            QCOMPARE(list.rowCount(), rows);
+            QCOMPARE(list.size(), marks.count(true));
+            const int last = marks.lastIndexOf(true);
+            QCOMPARE(list.rowAt(0), marks.indexOf(true));
+            QCOMPARE(list.rowAt(list.size() - 1), last);
+            QCOMPARE(list.positionOf(last), list.size() - 1);
+        }
+        QCOMPARE(list.invariantError(), QString());
+    }
+
     void rowsOutOfRangeAreNowhere()
     {
         ZrTableDisplayList list;

@@ -4,6 +4,7 @@
 #include "ZrTestMain.h"
 #include "zrutils/ZrCommonUtils.h"
 
+#include <cmath>
 #include <limits>
 
 class TestTableSums : public QObject
@@ -71,6 +72,30 @@ private slots:
         total.count(-1, 1);
         QCOMPARE(total.total(), QVariant(-3.5));
         QVERIFY(!total.count("text", 1));
+    }
+
+    // Half a unit in the last place rounds to even, unless something lies below it, however far.
+    void whatLiesFarBelowDecidesATie_data()
+    {
+        QTest::addColumn<double>("below");
+        QTest::addColumn<double>("expected");
+        const double large = std::ldexp(1.0, 52);
+        const double next = large + 1;
+        QTest::newRow("nothing below") << 0.0 << large;
+        QTest::newRow("a trace below") << std::ldexp(1.0, -100) << next;
+        QTest::newRow("a trace missing") << -std::ldexp(1.0, -100) << large;
+    }
+
+    void whatLiesFarBelowDecidesATie()
+    {
+        QFETCH(double, below);
+        QFETCH(double, expected);
+        for (const double sign : {1.0, -1.0}) {
+            ZrRunningTotal total;
+            for (const double part : {std::ldexp(1.0, 52), 0.5, below})
+                total.count(sign * part, 1);
+            QCOMPARE(total.total().toDouble() - sign * expected, 0.0);
+        }
     }
 
     void whatDoesNotFitIsOdd()

@@ -703,6 +703,26 @@ private slots:
         QCOMPARE(head->sectionSize(0), 99);
     }
 
+    void aModelThatComesLaterIsShownInTheSidesToo()
+    {
+        Frozen f;
+        f.view.setZrTableModel(new ZrTableModel);
+        HeadList heads = kit::heads(12);
+        f.view.setKeyColumn({0});
+        f.view.setHeadList(heads);
+        kit::fill(&f.view, 7, 12);
+        for (const int side : {leftSide, rightSide}) {
+            QCOMPARE(sideOf(f.view, side)->model(), f.table->model());
+            QCOMPARE(sideOf(f.view, side)->verticalHeader()->count(), 7);
+        }
+        QCOMPARE(shownColumns(sideOf(f.view, leftSide)), (QList<int>{0, 1}));
+        QCOMPARE(shownColumns(sideOf(f.view, rightSide)), (QList<int>{10, 11}));
+        // The parts hold together as before.
+        sideOf(f.view, leftSide)->setCurrentIndex(f.table->model()->index(4, 0));
+        QCOMPARE(f.table->currentIndex().row(), 4);
+        QCOMPARE(sideOf(f.view, rightSide)->currentIndex().row(), 4);
+    }
+
     void tableWithoutAViewFreezesNothing()
     {
         FreezeTableView table;

@@ -1,3 +1,4 @@
+#include "ZrGroupedHeadHeight.h"
 #include "ZrTestMain.h"
 #include "ZrViewTestKit.h"
 
@@ -28,6 +29,25 @@ private slots:
         QVERIFY(bandPx > 0);
         QCOMPARE(view.getZrTableHorizontalHeader()->minimumHeight(), 2 * bandPx);
         QCOMPARE(view.getZrTableHorizontalHeader()->height(), 2 * bandPx);
+    }
+
+    void aCollapsedHeadIsWaitedFor()
+    {
+        ZrTableView view;
+        view.resize(400, 200);
+        QHeaderView *const head = view.getZrTableHorizontalHeader();
+        head->setMaximumHeight(0);
+        kit::show(&view);
+        HeadList heads = grouped();
+        view.setHeadList(heads);
+        const ZrTableViewPrivate *const d = view.getPrivate();
+        QTimerEvent tick(d->headHeightTimer);
+        QCoreApplication::sendEvent(view.findChild<ZrGroupedHeadHeight *>(), &tick);
+        QVERIFY(!d->headHeightDoubled);
+        head->setMaximumHeight(QWIDGETSIZE_MAX);
+        QTRY_VERIFY(d->headHeightDoubled);
+        QVERIFY(head->height() > 0);
+        QCOMPARE(head->height(), head->minimumHeight());
     }
 
     void secondHeadListDoublesNoMore()

@@ -72,6 +72,19 @@ private slots:
         QCOMPARE(ZrColumnOffsets::of(nullptr), nullptr);
     }
 
+    void offsetsAreFoundInTheObjectOrRightBelowIt()
+    {
+        ZrTableView view;
+        view.setCheckBoxShow(true);
+        const ZrColumnOffsets *const offsets = ZrColumnOffsets::of(&view);
+        QVERIFY(offsets);
+        QCOMPARE(offsets->columnOffset(), 1);
+        QCOMPARE(ZrColumnOffsets::of(view.getPrivate()), offsets);
+        QObject none;
+        QObject child(&none);
+        QCOMPARE(ZrColumnOffsets::of(&none), nullptr);
+    }
+
     void therestPassesThrough()
     {
         QStandardItemModel model(2, 2);

@@ -53,6 +53,7 @@ private slots:
     void anOwnHeightSettlesWhatIsOwed();
     void hiddenRowsMoveWithTheirRow();
     void aResetAndAnotherModelCountAnew();
+    void theSameModelAgainChangesNothing();
     void rowsBelowAnotherRowAreNotOurs();
     void everySequenceEndsAtThePlacesOfThePlainHead();
 };
@@ -147,6 +148,23 @@ void tst_ZrRowHeader::aResetAndAnotherModelCountAnew()
     QTRY_COMPARE(tables.ours.verticalHeader()->count(), 3);
     tables.ours.setModel(nullptr);
     QCOMPARE(tables.ours.verticalHeader()->count(), 0);
+}
+
+void tst_ZrRowHeader::theSameModelAgainChangesNothing()
+{
+    Tables tables(6);
+    tables.ours.setRowHeight(2, 44);
+    tables.ours.verticalHeader()->setModel(&tables.model);
+    QCOMPARE(tables.ours.rowHeight(2), 44);
+    // It still hears of all that happens, as the plain head does.
+    tables.plain.setRowHeight(2, 44);
+    for (int row = 0; row < 6; ++row)
+        tables.model.setItem(row, 0, new QStandardItem(QString::number(row)));
+    tables.model.sort(0, Qt::DescendingOrder);
+    QCOMPARE(tables.ours.rowHeight(3), 44);
+    QCOMPARE(tables.firstDifference(), -1);
+    tables.append();
+    QCOMPARE(tables.ours.verticalHeader()->count(), 7);
 }
 
 void tst_ZrRowHeader::rowsBelowAnotherRowAreNotOurs()

@@ -199,6 +199,44 @@ private slots:
         QCOMPARE(sumText(view, 1), QStringLiteral("10"));
     }
 
+    void serialColumnThatComesLaterMovesTheSumsToo()
+    {
+        Summed s;
+        s.view.setSerialNumberColumnPropety(ZrViewModel::SerialNumDescending);
+        const ZrTableModel *const model = s.view.getPrivate()->summaryModel;
+        QCOMPARE(model->columnCount(), 4);
+        QCOMPARE(model->index(0, 0).data().toString(), QStringLiteral("Total"));
+        QCOMPARE(model->index(0, 2).data().toString(), QStringLiteral("10"));
+    }
+
+    void minimumWidthHoldsInTheSummaryAfterAColumnCame()
+    {
+        Summed s;
+        s.view.setColumnMinimumWidth(60);
+        s.view.setCheckBoxShow(true);
+        const ZrTableViewPrivate *const d = s.view.getPrivate();
+        QCOMPARE(d->summaryHeader->minimumSectionSize(), 60);
+        for (int column = 0; column < 4; ++column)
+            QCOMPARE(d->summaryHeader->sectionSize(column), d->header->sectionSize(column));
+    }
+
+    void aNumberThatDoesNotFitLeavesTheOtherSumsRight()
+    {
+        Summed s;
+        const auto set = [&s](const char *key, int column, const QVariant &value) {
+            s.view.updataRecordData({{0, kit::cell(QLatin1String(key))}, {column, kit::cell(value)}});
+        };
+        set("k0", 1, 1e17); // a running total takes no double beyond 2^53
+        QCOMPARE(sumText(s.view, 2), QStringLiteral("14"));
+        QCOMPARE(sumText(s.view, 1), QStringLiteral("10  0000  0000  0000  0016.00"));
+        set("k1", 1, 40);
+        QCOMPARE(sumText(s.view, 1), QStringLiteral("10  0000  0000  0000  0048.00"));
+        set("k0", 2, 102);
+        QCOMPARE(sumText(s.view, 2), QStringLiteral("114"));
+        set("k0", 1, 1);
+        QCOMPARE(sumText(s.view, 1), QStringLiteral("48"));
+    }
+
     void checkBoxComesToTheSummaryWithoutABoxInItsRow()
     {
         Summed s;
