@@ -40,8 +40,8 @@ public:
     ZrBenchCells row(int number);
     RecordData record(int number);
     RecordDataList records(int count);
-    /// The key and three changed cells for each of `count` random rows among `rows`. With `priceToo` the filtered
-    /// column is one of the three.
+    /// The key and three changed cells for each of `count` random rows among `rows`. With `priceToo` the
+    /// filtered column is one of the three.
     RecordDataList updates(int count, int rows, bool priceToo = false);
 
     static RecordData toRecord(const ZrBenchCells &cells);

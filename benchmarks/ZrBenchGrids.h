@@ -13,8 +13,8 @@ class QStandardItemModel;
 class QTableView;
 class ZrTableView;
 
-/// Times the operations of a burst between which data are made, and serves the event loop after every 16 ms of
-/// them, as a screen of 60 Hz asks for. What the event loop does counts, what the data cost doesn't.
+/// Times the operations of a burst between which data are made, and serves the event loop after every 16 ms
+/// of them, as a screen of 60 Hz asks for. What the event loop does counts, what the data cost doesn't.
 class ZrBenchStopwatch
 {
 public:

@@ -119,9 +119,12 @@ ZrBenchCases gridAppendBenches()
 {
     const char *const limitName = "ours below the row limit";
     const ZrBenchRow held = {"grid/append_at_cap", "rows/s", true, PeerName, limitName, 100, 0.5};
-    // Freeing a row of twenty cells takes longer than all that the grid does to append one: no bound beside a rate
-    // that frees nothing.
-    const ZrBenchRow freed = {"grid/append_at_cap_freed", "rows/s", true, PeerName, limitName, 100, ZrBenchRow::None};
+    // Freeing a row of twenty cells takes longer than all that the grid does to append one: no bound beside a
+    // rate that frees nothing.
+    const ZrBenchRow freed = {
+        "grid/append_at_cap_freed", "rows/s", true, PeerName, limitName, 100, ZrBenchRow::None};
     const ZrBenchRow load = {"grid/load", "ms", false, PeerName, {}, 0.5, ZrBenchRow::None};
-    return {{held, [] { return appendSides(true); }}, {freed, [] { return appendSides(false); }}, {load, loadSides}};
+    return {{held, [] { return appendSides(true); }},
+            {freed, [] { return appendSides(false); }},
+            {load, loadSides}};
 }

@@ -162,15 +162,14 @@ ZrBenchCases gridUpdateBenches()
                                                         [=] { return other->ratePerSecond(); },
                                                         {}};
                                 }};
-    const ZrBenchCase batch = {
-        {"grid/update_batch1000", Unit, true, PeerName, {}, 1.3, ZrBenchRow::None}, [=] {
-            const auto ours = plain();
-            const auto other = peer();
-            return ZrBenchSides{
-                [=] { return ours->batchRatePerSecond(); },
-                                [=] { return other->ratePerSecond(false, BatchSize); },
-                                {}};
-        }};
+    const ZrBenchCase batch = {{"grid/update_batch1000", Unit, true, PeerName, {}, 1.3, ZrBenchRow::None},
+                               [=] {
+                                   const auto ours = plain();
+                                   const auto other = peer();
+                                   return ZrBenchSides{[=] { return ours->batchRatePerSecond(); },
+                                                       [=] { return other->ratePerSecond(false, BatchSize); },
+                                                       {}};
+                               }};
     const ZrBenchCase sizes = {
         {"grid/update_filtered_size", Unit, true, {}, "the same at 10,000 rows", ZrBenchRow::None, 1 / 1.5},
         [=] {

@@ -135,6 +135,7 @@ void ZrBlotterPanel::setOpenOnly(bool openOnly)
     if (openOnly && m_statusColumn >= 0)
         filters.insert(m_statusColumn, {{equals(QStringLiteral("0"))}, {equals(QStringLiteral("1"))}});
     m_view->resetViewCurrentFilterList(filters);
+    m_view->getZrTableModel()->update(); // the list is taken over without one
 }
 
 void ZrBlotterPanel::colourRow(const QVariantMap &message, RecordData *row) const

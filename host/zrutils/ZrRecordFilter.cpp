@@ -50,8 +50,8 @@ RecordDataList ZrRecordFilter::passing(const RecordDataList &records) const
     return result;
 }
 
-// Records lie apart in memory, and many of them fit no cache. Each loop reads one thing of every record of a block,
-// so that the processor waits for all of them at once.
+// Records lie apart in memory, and many of them fit no cache. Each loop reads one thing of every record of a
+// block, so that the processor waits for all of them at once.
 void ZrRecordFilter::readAhead(const RecordDataList &records, int first) const
 {
     const int end = std::min(first + BlockSize, records.size());

@@ -2,8 +2,8 @@
 
 #include <QtCore/QObject>
 
-/// The interface of `owner` itself or of one of its direct children, where a class keeps its private object; null
-/// when there is none.
+/// The interface of `owner` itself or of one of its direct children, where a class keeps its private object;
+/// null when there is none.
 template<typename Interface>
 Interface *zrFamilyInterface(const QObject *owner)
 {

@@ -7,8 +7,8 @@
 
 namespace {
 
-// As long as it lives, requests to paint the widget are dropped. Not by setUpdatesEnabled(), which ends with one
-// for the whole widget.
+// As long as it lives, requests to paint the widget are dropped. Not by setUpdatesEnabled(), which ends with
+// one for the whole widget.
 class PaintRequestsDropped
 {
 public:
@@ -60,7 +60,8 @@ void ZrLiveTable::dataChanged(const QModelIndex &topLeft, const QModelIndex &bot
                               const QVector<int> &roles)
 {
     // Nobody sees the cell, edits it or reads it aloud.
-    if (topLeft == bottomRight && !isInSight(topLeft.row()) && !indexWidget(topLeft) && !QAccessible::isActive())
+    if (topLeft == bottomRight && !isInSight(topLeft.row()) && !indexWidget(topLeft) &&
+        !QAccessible::isActive())
         return;
     QTableView::dataChanged(topLeft, bottomRight, roles);
 }

@@ -7,13 +7,15 @@
 
 class ZrRowHeader;
 
-/// A table under a stream of updates: paints what changed in sight, and spends nothing on what is out of sight.
+/// A table under a stream of updates: paints what changed in sight, and spends nothing on what is out of
+/// sight.
 ///
 /// Shape:     its vertical head is a ZrRowHeader. Where the model tells which rows a reset is about (see
 ///            ZrTouchedRows), the others are not painted anew; all else that a reset does is done.
 /// Ownership: normal QWidget parent rules.
 /// Threads:   GUI thread only.
-/// Errors:    none; for a model that tells nothing, and while a widget lies over a cell, it does what the toolkit's
+/// Errors:    none; for a model that tells nothing, and while a widget lies over a cell, it does what the
+/// toolkit's
 ///            table does.
 class ZRWIDGET_EXPORT ZrLiveTable : public QTableView
 {

@@ -104,8 +104,10 @@ void ZrPresenterClass::PutEvent(QString pid, CEventMessageCommon *evt)
 void ZrPresenterClass::Sub(QString pid, QVariant msgType, int type)
 {
     const ZrPresenterCall call(d);
+    if (!call.isWelcome())
+        return;
     const bool isKnown = d->subscribedTypes.contains(msgType);
-    if (!call.isWelcome() || (type == typeSubscribe && isKnown) || (type == typeUnsubscribe && !isKnown))
+    if ((type == typeSubscribe && isKnown) || (type == typeUnsubscribe && !isKnown))
         return;
     if (type == typeSubscribe)
         d->subscribedTypes.append(msgType);

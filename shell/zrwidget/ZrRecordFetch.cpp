@@ -16,7 +16,8 @@ using Ranges = QVarLengthArray<QPair<Iterator, Iterator>, CellsAtHand>;
 // A text lies apart from its value, any other type in it.
 int readText(const QVariant &value)
 {
-    return value.userType() == QMetaType::QString ? static_cast<const QString *>(value.constData())->size() : 0;
+    return value.userType() == QMetaType::QString ? static_cast<const QString *>(value.constData())->size()
+                                                  : 0;
 }
 
 // Else the compiler would leave all the reading out.
@@ -48,8 +49,8 @@ void addNamedCells(const RecordData &stored, const RecordData &incoming, Cells &
     }
 }
 
-// What follows in a map is known only when the step before has been waited for: so all maps' first entries, then
-// their second ones.
+// What follows in a map is known only when the step before has been waited for: so all maps' first entries,
+// then their second ones.
 template<typename Iterator, typename Read>
 void stepTogether(Ranges<Iterator> &ranges, const Read &read)
 {
@@ -107,14 +108,16 @@ void ZrRecordFetch::block(const RecordDataList &records, int first, const Record
     readCells(cells);
 }
 
-void ZrRecordFetch::front(const RecordDataList &rows, const ZrTableKeyIndex &index, const QList<int> &keyColumns)
+void ZrRecordFetch::front(const RecordDataList &rows, const ZrTableKeyIndex &index,
+                          const QList<int> &keyColumns)
 {
     const int last = qMin(BlockSize, rows.size()) - 1;
     int sum = 0;
     for (int i = 0; i <= last; ++i)
         sum += index.row(ZrTableKeyIndex::makeKey(rows.at(i), keyColumns));
     // A record that somebody else holds too is not freed.
-    const Cells cells = cellsOfAll(rows, 0, last, [](const RecordData &record) { return record.isDetached(); });
+    const Cells cells =
+        cellsOfAll(rows, 0, last, [](const RecordData &record) { return record.isDetached(); });
     for (const ItemRoleMap *const cell : cells)
         sum += cell->size();
     Ranges<ItemRoleMap::const_iterator> ranges;

@@ -24,8 +24,8 @@ public:
 
     void setModel(QAbstractItemModel *model) override;
 
-    /// Whether a part of the row lies within the first `heightPx` below the head's offset. True where finding out
-    /// would cost more than it saves.
+    /// Whether a part of the row lies within the first `heightPx` below the head's offset. True where finding
+    /// out would cost more than it saves.
     bool isInSight(int row, int heightPx) const;
 
 private:

@@ -7,7 +7,8 @@
 namespace {
 constexpr int c_pseudoAlignment = 130; // right, vertically centred; whatever the default of the columns is
 
-// A cell has few roles, and each paint asks for many that it hasn't: to compare lengths is cheaper than to search.
+// A cell has few roles, and each paint asks for many that it hasn't: to compare lengths is cheaper than to
+// search.
 ItemRoleMap::const_iterator findRole(const ItemRoleMap &cell, const QString &role)
 {
     auto value = cell.constBegin();
@@ -15,7 +16,7 @@ ItemRoleMap::const_iterator findRole(const ItemRoleMap &cell, const QString &rol
         ++value;
     return value;
 }
-}
+} // namespace
 
 QVariant ZrTableCellReader::read(const ZrTableModelPrivate &fields, int row, int column, int role)
 {

@@ -26,8 +26,8 @@ ZrTableIntake::Kind ZrTableIntake::classify(const QString &key) const
     return key.isEmpty() ? Refused : New;
 }
 
-// Known to the operators of the grid by its run of ones; it stays as it is. A full grid comes here for each row:
-// nothing is put together that nobody reads.
+// Known to the operators of the grid by its run of ones; it stays as it is. A full grid comes here for each
+// row: nothing is put together that nobody reads.
 void ZrTableIntake::logEviction() const
 {
     if (!QLoggingCategory::defaultCategory()->isDebugEnabled())

@@ -47,7 +47,7 @@ bool bringsNothing(const ItemRoleMap &have, const ItemRoleMap &cell)
 // An update names neighbouring columns more often than not: the next cell is looked at before one is
 // searched.
 RecordData::const_iterator ZrTableMerge::findCell(const RecordData &record, RecordData::const_iterator last,
-                                                   int column)
+                                                  int column)
 {
     if (last != record.constEnd() && last.key() < column) {
         ++last;

@@ -20,8 +20,8 @@ public:
     static void merge(RecordData &stored, const RecordData &incoming, ZrTableSums *sums,
                       ZrChangedColumns &changed);
 
-    /// The cell of a column, its end without one. `last` is what the search for a column in front of it gave, or the
-    /// end: where columns are asked for in order, the next one is mostly at hand.
+    /// The cell of a column, its end without one. `last` is what the search for a column in front of it gave,
+    /// or the end: where columns are asked for in order, the next one is mostly at hand.
     static RecordData::const_iterator findCell(const RecordData &record, RecordData::const_iterator last,
                                                int column);
 

@@ -30,8 +30,8 @@ class ZrTableRows;
 /// Ownership: child of its model; keeps no pointer to a view.
 /// Threads:   GUI thread only.
 class ZRWIDGET_PRIVATE_EXPORT ZrTableModelPrivate : public QObject,
-                                                  public ZrColumnOffsets,
-                                                  public ZrTouchedRows
+                                                    public ZrColumnOffsets,
+                                                    public ZrTouchedRows
 {
     Q_OBJECT
     Q_INTERFACES(ZrColumnOffsets ZrTouchedRows)

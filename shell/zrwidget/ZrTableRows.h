@@ -65,5 +65,5 @@ private:
 
     ZrTableModelPrivate &m_fields;
     bool m_marksStale = false; // a new column type may change what the filter says of earlier rows
-    int m_readAhead = 0; // rows at the front that ZrRecordFetch has read
+    int m_readAhead = 0;       // rows at the front that ZrRecordFetch has read
 };

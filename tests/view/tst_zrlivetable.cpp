@@ -34,11 +34,15 @@ public:
     {
     }
 
-    int rowCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : m_values.size(); }
+    int rowCount(const QModelIndex &parent = {}) const override
+    {
+        return parent.isValid() ? 0 : m_values.size();
+    }
     int columnCount(const QModelIndex & = {}) const override { return 3; }
     QVariant data(const QModelIndex &index, int role) const override
     {
-        return role == Qt::DisplayRole || role == Qt::EditRole ? QVariant(m_values.at(index.row())) : QVariant();
+        return role == Qt::DisplayRole || role == Qt::EditRole ? QVariant(m_values.at(index.row()))
+                                                               : QVariant();
     }
 
     void change(const QVector<int> &rows)
