@@ -2,6 +2,7 @@
 
 #include "FreezeTableView.h"
 #include "ZrParseTableColsCfg.h"
+#include "ZrTableModel.h"
 #include "ZrTablePropertySet.h"
 #include "ZrTableView.h"
 

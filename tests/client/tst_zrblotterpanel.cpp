@@ -11,6 +11,7 @@
 #include "zrdefine/VexlorFields.h"
 
 #include <QtCore/QTemporaryDir>
+#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
 
 /// The order blotter on messages made for the test.
