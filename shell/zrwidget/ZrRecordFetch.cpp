@@ -134,6 +134,7 @@ void ZrRecordFetch::front(const RecordDataList &rows, const ZrTableKeyIndex &ind
                           const QList<int> &keyColumns)
 {
     const int last = qMin(BlockSize, rows.size()) - 1;
+    keys(rows, 0, keyColumns);
     int sum = 0;
     for (int i = 0; i <= last; ++i)
         sum += index.row(ZrTableKeyIndex::makeKey(rows.at(i), keyColumns));
