@@ -8,6 +8,8 @@ QList<ZrShowcaseEntry> ZrShowcasePages::all()
     };
     return {
         // --- grid ---
+        entry("table-view", "ZrTableView", "grid", zrMakeTableViewPage),
+        entry("header-view", "ZrHeaderView", "grid", zrMakeHeaderViewPage),
 
         // --- dialogs ---
 

@@ -23,6 +23,8 @@ public:
 };
 
 // --- grid ---
+ZrShowcasePage *zrMakeTableViewPage(QWidget *parent);
+ZrShowcasePage *zrMakeHeaderViewPage(QWidget *parent);
 
 // --- dialogs ---
 

@@ -7,6 +7,8 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QGraphicsProxyWidget>
 
+#include <algorithm>
+
 namespace {
 // As wide as in a cell of a page.
 QSize sizeOf(const QWidget *widget)
@@ -63,14 +65,26 @@ void ZrShowcaseStage::enter(ZrShowcasePage::State state)
     }
 }
 
+// The pointer stands over what is at the centre and over all that this stands in.
 void ZrShowcaseStage::hover()
 {
-    const QPointF at = m_widget->rect().center();
-    m_widget->setAttribute(Qt::WA_UnderMouse);
-    QEvent enter(QEvent::Enter);
-    QCoreApplication::sendEvent(m_widget, &enter);
-    QHoverEvent event(QEvent::HoverEnter, at, QPointF(-1, -1));
-    QCoreApplication::sendEvent(m_widget, &event);
+    const QPoint centre = m_widget->rect().center();
+    QList<QWidget *> under;
+    for (QWidget *widget = m_widget->childAt(centre); widget && widget != m_widget;
+         widget = widget->parentWidget())
+        under.prepend(widget);
+    under.prepend(m_widget);
+    for (QWidget *const widget : qAsConst(under)) {
+        const QPointF at = widget->mapFrom(m_widget, centre);
+        widget->setAttribute(Qt::WA_UnderMouse);
+        QEvent enter(QEvent::Enter);
+        QCoreApplication::sendEvent(widget, &enter);
+        for (const QEvent::Type type : {QEvent::HoverEnter, QEvent::HoverMove}) {
+            QHoverEvent event(type, at, QPointF(-1, -1));
+            if (widget->testAttribute(Qt::WA_Hover))
+                QCoreApplication::sendEvent(widget, &event);
+        }
+    }
 }
 
 void ZrShowcaseStage::focus()
