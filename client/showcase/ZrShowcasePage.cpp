@@ -21,6 +21,7 @@ QLabel *makeLabel(const char *name, const QString &text, QWidget *parent)
     auto *const label = new QLabel(parent);
     label->setObjectName(QString::fromLatin1(name));
     label->setTextFormat(Qt::PlainText);
+    label->setIndent(0); // one with a line below it would be indented
     label->setText(text);
     return label;
 }
@@ -36,6 +37,8 @@ ZrShowcasePage::ZrShowcasePage(const QString &id, const QString &title, const QS
 {
     setObjectName(id);
     setAccessibleName(title);
+    // Before any part is laid out: what was polished under other sheets would keep their look.
+    ZrCore::instance()->addStyle2View(this, Constants::SKIN_SYSTEM + QStringLiteral("client/showcase.css"));
     m_area->setObjectName(QStringLiteral("showcaseArea"));
     m_area->setAccessibleName(title);
     m_area->setFrameShape(QFrame::NoFrame);
@@ -47,7 +50,6 @@ ZrShowcasePage::ZrShowcasePage(const QString &id, const QString &title, const QS
     whole->addWidget(m_area);
     addHeader(purpose);
     m_area->setWidget(m_content);
-    ZrCore::instance()->addStyle2View(this, Constants::SKIN_SYSTEM + QStringLiteral("client/showcase.css"));
     // Every view has its new sheet by the time of this signal.
     connect(ZrCore::instance(), &ZrCore::signalSkinChanged, this, &ZrShowcasePage::skinChanged);
 }

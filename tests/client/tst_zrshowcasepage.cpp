@@ -1,4 +1,6 @@
+#include "ZrQuietPlatform.h"
 #include "ZrReferenceHost.h"
+#include "ZrShowcaseGrid.h"
 #include "ZrShowcasePage.h"
 #include "ZrTestMain.h"
 
@@ -87,6 +89,7 @@ QList<QLabel *> captions(const ZrShowcasePage &page)
 
 void tst_ZrShowcasePage::initTestCase()
 {
+    ZrQuietPlatform::install();
     ZrReferenceHost::Options options;
     options.configFolder = m_folder.path();
     options.skinRoot = QStringLiteral(ZR_SKINS);
@@ -122,7 +125,7 @@ void tst_ZrShowcasePage::aSampleIsShownUnderItsCaption()
     QCOMPARE(edit->x(), caption->x());
     QCOMPARE(edit->accessibleName(), QStringLiteral("Normal"));
     // One fills its column, the other keeps its size; both begin at the same height.
-    QCOMPARE(edit->width(), 160);
+    QCOMPARE(edit->width(), ZrShowcaseGrid::ColumnPx);
     QCOMPARE(button->width(), button->sizeHint().width());
     QCOMPARE(button->mapTo(page.get(), QPoint()).y(), edit->mapTo(page.get(), QPoint()).y());
 }
