@@ -273,10 +273,6 @@
 <context>
     <name>ZrShowcase</name>
     <message>
-        <source>The limit price, in the currency of the venue</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Titles</source>
         <translation type="unfinished"></translation>
     </message>
@@ -394,6 +390,14 @@
     </message>
     <message>
         <source>A live grid of keyed records, with check boxes, frozen columns, bands and a summary.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In shares</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Orders</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

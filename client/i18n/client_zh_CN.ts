@@ -273,10 +273,6 @@
 <context>
     <name>ZrShowcase</name>
     <message>
-        <source>The limit price, in the currency of the venue</source>
-        <translation>限价，以交易场所的货币计</translation>
-    </message>
-    <message>
         <source>Titles</source>
         <translation>标题</translation>
     </message>
@@ -395,6 +391,14 @@
     <message>
         <source>A live grid of keyed records, with check boxes, frozen columns, bands and a summary.</source>
         <translation>按键更新的实时表格，带复选框、冻结列、分组表头与合计行。</translation>
+    </message>
+    <message>
+        <source>In shares</source>
+        <translation>以股计</translation>
+    </message>
+    <message>
+        <source>Orders</source>
+        <translation>委托</translation>
     </message>
 </context>
 <context>

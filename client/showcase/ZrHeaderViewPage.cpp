@@ -25,12 +25,18 @@ ZrTableView *sorted(Qt::SortOrder order)
     return view;
 }
 
-// The middle of this grid lies on the button of a column.
 ZrTableView *atPointer()
 {
     ZrTableView *const view = shallow(ZrOrderSample::FilterButtons);
     view->setViewFilterbuttonAlwayVisiable(false);
-    view->setFixedHeight(44);
+    return view;
+}
+
+// Its middle, where the pointer stands, lies on the button of a column.
+ZrTableView *underPointer()
+{
+    ZrTableView *const view = atPointer();
+    view->setFixedHeight(28);
     return view;
 }
 
@@ -56,7 +62,7 @@ ZrTableView *filtered()
 ZrTableView *withMark()
 {
     ZrTableView *const view = shallow();
-    view->setHeadTip(ZrOrderSample::Price, ZrShowcase::tr("The limit price, in the currency of the venue"));
+    view->setHeadTip(ZrOrderSample::Quantity, ZrShowcase::tr("In shares"));
     return view;
 }
 
@@ -88,7 +94,7 @@ void addHeads(ZrShowcasePage *page)
     page->beginRow(ZrShowcase::tr("Filter buttons"));
     page->addSample(ZrShowcase::tr("Shown at the pointer"), atPointer());
     page->addPicture(
-        ZrShowcase::tr("Hover"), [] { return atPointer(); }, ZrShowcasePage::State::Hover);
+        ZrShowcase::tr("Hover"), [] { return underPointer(); }, ZrShowcasePage::State::Hover);
     page->addSample(ZrShowcase::tr("Always shown"), withButtons());
     page->addSample(ZrShowcase::tr("Filtered by side"), filtered());
     page->beginRow(ZrShowcase::tr("Check boxes"));

@@ -69,7 +69,7 @@ HeadList heads(bool bands)
 
 void arrangeColumns(ZrTableView *view)
 {
-    const int widths[] = {76, 62, 54, 54, 58};
+    const int widths[] = {76, 62, 54, 60, 58};
     for (int column = ZrOrderSample::Symbol; column <= ZrOrderSample::Quantity; ++column)
         view->setColumnWidth(column, widths[column]);
     for (const int column : {ZrOrderSample::Symbol, ZrOrderSample::Name})

@@ -152,5 +152,7 @@ void ZrShowcasePage::takePictures()
 
 QPixmap ZrShowcasePage::grabWhole()
 {
-    return m_content->grab();
+    // On a short page the content fills the dock.
+    const int needed = m_content->heightForWidth(m_content->width());
+    return m_content->grab({0, 0, m_content->width(), qMin(needed, m_content->height())});
 }
