@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QtCore/QList>
+#include <QtCore/QString>
+
+class QWidget;
+class ZrShowcasePage;
+
+/// A page that can be made when somebody wants to see it.
+struct ZrShowcaseEntry
+{
+    QString id;     // as the page's own
+    QString title;  // as the page's own
+    QString family; // pages of one family stand together
+    ZrShowcasePage *(*make)(QWidget *parent);
+};
+
+/// All pages, in the order in which they are offered.
+class ZrShowcasePages
+{
+public:
+    static QList<ZrShowcaseEntry> all();
+};
+
+// --- grid ---
+ZrShowcasePage *zrMakeTableViewPage(QWidget *parent);
+ZrShowcasePage *zrMakeHeaderViewPage(QWidget *parent);
+
+// --- dialogs ---
+
+// --- frames ---
+
+// --- editors ---
+
+// --- combos ---

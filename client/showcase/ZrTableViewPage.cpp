@@ -1,0 +1,104 @@
+#include "ZrOrderSample.h"
+#include "ZrRoleKeys.h"
+#include "ZrShowcasePage.h"
+#include "ZrShowcasePages.h"
+#include "ZrTableView.h"
+
+#include <QtCore/QCoreApplication>
+
+namespace {
+QString text(const char *source)
+{
+    return QCoreApplication::translate("ZrShowcase", source);
+}
+
+ZrTableView *withSelection()
+{
+    ZrTableView *const view = ZrOrderSample::make(ZrOrderSample::MostRows);
+    view->setCurrentIndex(view->index(2, 0));
+    return view;
+}
+
+ZrTableView *disabled()
+{
+    ZrTableView *const view = ZrOrderSample::make(ZrOrderSample::MostRows);
+    view->setEnabled(false);
+    return view;
+}
+
+ZrTableView *withChecks()
+{
+    ZrTableView *const view = ZrOrderSample::make(ZrOrderSample::MostRows, ZrOrderSample::CheckBoxes);
+    view->SetCheckedRowHighlight(true);
+    view->setCheckStatusByRow(1, true);
+    view->setCheckStatusByRow(3, true);
+    view->setCheckBoxEnabledByRow(4, false);
+    return view;
+}
+
+ZrTableView *withAllChecked()
+{
+    ZrTableView *const view = ZrOrderSample::make(ZrOrderSample::MostRows, ZrOrderSample::CheckBoxes);
+    view->setAllCheckBoxChecked(true);
+    return view;
+}
+
+// Wider than its place, so that the frozen columns stand over others.
+ZrTableView *withFrozen()
+{
+    ZrTableView *const view = ZrOrderSample::make(ZrOrderSample::MostRows);
+    for (int column = ZrOrderSample::OrderNo; column <= ZrOrderSample::Quantity; ++column)
+        view->setColumnWidth(column, 124);
+    view->setFrozenColumns(1, true, 1);
+    view->setFrozenColumns(2, true, 1);
+    return view;
+}
+
+ZrTableView *withSummary()
+{
+    ZrTableView *const view = ZrOrderSample::make(4, ZrOrderSample::SerialNumbers);
+    view->setSummaryLineEnable(true, {ZrOrderSample::OrderNo, ZrOrderSample::Symbol, ZrOrderSample::Name,
+                                      ZrOrderSample::Side, ZrOrderSample::Price});
+    return view;
+}
+
+ZrTableView *withLongTexts()
+{
+    ZrTableView *const view = ZrOrderSample::make(4);
+    RecordData row = view->getRowData(1);
+    row[ZrOrderSample::Symbol].insert(ITEM_DISPLAYROLE, QStringLiteral("CONVERTIBLE-2031-SERIES-B.SH"));
+    row[ZrOrderSample::Name].insert(ITEM_DISPLAYROLE,
+                                    QStringLiteral("沅芮软件科技股份有限公司可转换公司债券"));
+    row[ZrOrderSample::Price].insert(ITEM_DISPLAYROLE, QStringLiteral("123,456,789,012.345"));
+    view->updataRecordData(row);
+    return view;
+}
+
+void addGrids(ZrShowcasePage *page)
+{
+    page->beginRow(text("Rows"));
+    page->addSample(text("Normal"), ZrOrderSample::make(ZrOrderSample::MostRows));
+    page->addSample(text("Current row"), withSelection());
+    page->addPicture(
+        text("Focus"), [] { return withSelection(); }, ZrShowcasePage::State::Focus);
+    page->addSample(text("Disabled"), disabled());
+    page->addSample(text("Empty"), ZrOrderSample::make(0));
+    page->addSample(text("Long text"), withLongTexts());
+    page->beginRow(text("Check boxes"));
+    page->addSample(text("Some checked, one disabled"), withChecks());
+    page->addSample(text("All checked"), withAllChecked());
+    page->beginRow(text("Columns"));
+    page->addSample(text("Bands"), ZrOrderSample::make(ZrOrderSample::MostRows, ZrOrderSample::Bands));
+    page->addSample(text("Frozen left and right"), withFrozen());
+    page->addSample(text("Numbers and summary"), withSummary());
+}
+} // namespace
+
+ZrShowcasePage *zrMakeTableViewPage(QWidget *parent)
+{
+    auto *const page = new ZrShowcasePage(
+        QStringLiteral("table-view"), QStringLiteral("ZrTableView"),
+        text("A live grid of keyed records, with check boxes, frozen columns, bands and a summary."), parent);
+    addGrids(page);
+    return page;
+}
