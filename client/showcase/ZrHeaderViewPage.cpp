@@ -1,5 +1,6 @@
 #include "ZrHeaderView.h"
 #include "ZrOrderSample.h"
+#include "ZrShowcase.h"
 #include "ZrShowcasePage.h"
 #include "ZrShowcasePages.h"
 #include "ZrTableView.h"
@@ -7,14 +8,7 @@
 #include "zrdefine/VexlorFields.h"
 #include "zrdefine/VexlorValues.h"
 
-#include <QtCore/QCoreApplication>
-
 namespace {
-QString text(const char *source)
-{
-    return QCoreApplication::translate("ZrShowcase", source);
-}
-
 // The head and one row to show that it is a head.
 ZrTableView *shallow(ZrOrderSample::Parts parts = ZrOrderSample::Plain)
 {
@@ -53,7 +47,7 @@ ZrTableView *filtered()
 ZrTableView *withMark()
 {
     ZrTableView *const view = shallow();
-    view->setHeadTip(ZrOrderSample::Price, text("The limit price, in the currency of the venue"));
+    view->setHeadTip(ZrOrderSample::Price, ZrShowcase::tr("The limit price, in the currency of the venue"));
     return view;
 }
 
@@ -75,29 +69,29 @@ ZrTableView *disabled()
 
 void addHeads(ZrShowcasePage *page)
 {
-    page->beginRow(text("Titles"));
-    page->addSample(text("Normal"), shallow());
-    page->addSample(text("Disabled"), disabled());
-    page->addSample(text("Sorted upwards"), sorted(Qt::AscendingOrder));
-    page->addSample(text("Sorted downwards"), sorted(Qt::DescendingOrder));
-    page->addSample(text("Bands"), shallow(ZrOrderSample::Bands));
-    page->addSample(text("Help mark"), withMark());
-    page->beginRow(text("Filter buttons"));
-    page->addSample(text("Shown at the pointer"), shallow(ZrOrderSample::FilterButtons));
+    page->beginRow(ZrShowcase::tr("Titles"));
+    page->addSample(ZrShowcase::tr("Normal"), shallow());
+    page->addSample(ZrShowcase::tr("Disabled"), disabled());
+    page->addSample(ZrShowcase::tr("Sorted upwards"), sorted(Qt::AscendingOrder));
+    page->addSample(ZrShowcase::tr("Sorted downwards"), sorted(Qt::DescendingOrder));
+    page->addSample(ZrShowcase::tr("Bands"), shallow(ZrOrderSample::Bands));
+    page->addSample(ZrShowcase::tr("Help mark"), withMark());
+    page->beginRow(ZrShowcase::tr("Filter buttons"));
+    page->addSample(ZrShowcase::tr("Shown at the pointer"), shallow(ZrOrderSample::FilterButtons));
     page->addPicture(
-        text("Hover"),
+        ZrShowcase::tr("Hover"),
         []() -> QWidget * {
             ZrTableView *const view = shallow(ZrOrderSample::FilterButtons);
             view->setFixedHeight(view->getZrTableHorizontalHeader()->sizeHint().height());
             return view;
         },
         ZrShowcasePage::State::Hover);
-    page->addSample(text("Always shown"), withButtons());
-    page->addSample(text("Filtered by side"), filtered());
-    page->beginRow(text("Check boxes"));
-    page->addSample(text("None checked"), checked(0));
-    page->addSample(text("Some checked"), checked(1));
-    page->addSample(text("All checked"), checked(2));
+    page->addSample(ZrShowcase::tr("Always shown"), withButtons());
+    page->addSample(ZrShowcase::tr("Filtered by side"), filtered());
+    page->beginRow(ZrShowcase::tr("Check boxes"));
+    page->addSample(ZrShowcase::tr("None checked"), checked(0));
+    page->addSample(ZrShowcase::tr("Some checked"), checked(1));
+    page->addSample(ZrShowcase::tr("All checked"), checked(2));
 }
 } // namespace
 
@@ -105,7 +99,8 @@ ZrShowcasePage *zrMakeHeaderViewPage(QWidget *parent)
 {
     auto *const page = new ZrShowcasePage(
         QStringLiteral("header-view"), QStringLiteral("ZrHeaderView"),
-        text("The head of a grid: sorting, filter buttons, bands over columns, a check box for all rows."),
+        ZrShowcase::tr(
+            "The head of a grid: sorting, filter buttons, bands over columns, a check box for all rows."),
         parent);
     addHeads(page);
     return page;

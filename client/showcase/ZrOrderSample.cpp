@@ -2,11 +2,11 @@
 
 #include "ZrColumnTexts.h"
 #include "ZrRoleKeys.h"
+#include "ZrShowcase.h"
 #include "ZrTableView.h"
 
 #include "zrcore/ZrCore.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QLocale>
 
 namespace {
@@ -37,9 +37,7 @@ ItemRoleMap cell(const QString &text, const QVariant &raw)
 
 ItemRoleMap sideCell(const Order &order, const ZrTableView &view)
 {
-    ItemRoleMap side = cell(order.buys ? QCoreApplication::translate("ZrShowcase", "Buy")
-                                       : QCoreApplication::translate("ZrShowcase", "Sell"),
-                            order.buys ? 1 : 2);
+    ItemRoleMap side = cell(order.buys ? ZrShowcase::tr("Buy") : ZrShowcase::tr("Sell"), order.buys ? 1 : 2);
     side.insert(ITEM_FOREGROUNDROLE, order.buys ? view.upColor() : view.downColor());
     return side;
 }
@@ -65,9 +63,8 @@ HeadList heads(bool bands)
     for (int column = 0; column < titles.size(); ++column) {
         QMap<QString, QVariant> head{{HEAD_DISPLAYROLE, ZrColumnTexts::title(titles.at(column))}};
         if (bands && column != ZrOrderSample::OrderNo) {
-            const QString band = column < ZrOrderSample::Side
-                                     ? QCoreApplication::translate("ZrShowcase", "Security")
-                                     : ZrColumnTexts::band(QStringLiteral("order"));
+            const QString band = column < ZrOrderSample::Side ? ZrShowcase::tr("Security")
+                                                              : ZrColumnTexts::band(QStringLiteral("order"));
             head.insert(HEAD_GROUPID, band);
             head.insert(HEAD_GROUPNAME, band);
         }

@@ -49,7 +49,7 @@ ZrShowcasePage::ZrShowcasePage(const QString &id, const QString &title, const QS
     m_area->setWidget(m_content);
     ZrCore::instance()->addStyle2View(this, Constants::SKIN_SYSTEM + QStringLiteral("client/showcase.css"));
     // Every view has its new sheet by the time of this signal.
-    connect(ZrCore::instance(), &ZrCore::signalSkinChanged, this, &ZrShowcasePage::takePictures);
+    connect(ZrCore::instance(), &ZrCore::signalSkinChanged, this, &ZrShowcasePage::skinChanged);
 }
 
 void ZrShowcasePage::addHeader(const QString &purpose)
@@ -83,6 +83,7 @@ QWidget *ZrShowcasePage::addCell(const QString &caption, QWidget *shown)
     if (!m_row)
         beginRow(QString());
     auto *const cell = new QWidget(m_row->parentWidget());
+    cell->setObjectName(QStringLiteral("showcaseCell"));
     auto *const column = new QVBoxLayout(cell);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(CaptionGapPx);
@@ -113,7 +114,9 @@ void ZrShowcasePage::addPicture(const QString &caption, const Maker &make, State
     picture->setAccessibleName(caption);
     m_pictures.append(picture);
     addCell(caption, picture);
-    if (isVisible())
+    if (m_outdated || !isVisible())
+        m_outdated = true;
+    else
         picture->take();
 }
 
@@ -126,12 +129,21 @@ void ZrShowcasePage::loadSkin(const QVariant &css)
 // Not earlier: the sheets of the windows around it are part of a widget's look.
 void ZrShowcasePage::showEvent(QShowEvent *event)
 {
-    takePictures();
+    if (m_outdated)
+        takePictures();
     QWidget::showEvent(event);
+}
+
+void ZrShowcasePage::skinChanged()
+{
+    m_outdated = true;
+    if (isVisible())
+        takePictures();
 }
 
 void ZrShowcasePage::takePictures()
 {
+    m_outdated = false;
     for (ZrShowcasePicture *const picture : qAsConst(m_pictures))
         picture->take();
 }
