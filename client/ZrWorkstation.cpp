@@ -191,6 +191,8 @@ QString ZrWorkstation::writeFiles()
         error = m_tee->finish();
     if (error.isEmpty() && !m_options.shotsFolder.isEmpty())
         error = ZrShots::write(m_window.get(), m_options.shotsFolder);
+    if (error.isEmpty() && !m_options.shotsFolder.isEmpty())
+        error = ZrShots::writePages(m_window->showcase(), m_options.shotsFolder);
     if (error.isEmpty() && !m_options.reportFile.isEmpty())
         error = m_report.write(m_options.reportFile);
     return error;
