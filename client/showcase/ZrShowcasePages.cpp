@@ -14,6 +14,10 @@ QList<ZrShowcaseEntry> ZrShowcasePages::all()
         // --- dialogs ---
 
         // --- frames ---
+        entry("shadow-frame", "ZrShadowFrame", "frames", zrMakeShadowFramePage),
+        entry("loading-frame", "ZrLoadingFrame", "frames", zrMakeLoadingFramePage),
+        entry("menu", "ZrMenu", "frames", zrMakeMenuPage),
+        entry("log-widget", "ZrLogWidget", "frames", zrMakeLogWidgetPage),
 
         // --- editors ---
         entry("line-edit", "ZrLineEdit", "editors", zrMakeLineEditPage),

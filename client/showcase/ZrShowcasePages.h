@@ -29,6 +29,10 @@ ZrShowcasePage *zrMakeHeaderViewPage(QWidget *parent);
 // --- dialogs ---
 
 // --- frames ---
+ZrShowcasePage *zrMakeShadowFramePage(QWidget *parent);
+ZrShowcasePage *zrMakeLoadingFramePage(QWidget *parent);
+ZrShowcasePage *zrMakeMenuPage(QWidget *parent);
+ZrShowcasePage *zrMakeLogWidgetPage(QWidget *parent);
 
 // --- editors ---
 ZrShowcasePage *zrMakeLineEditPage(QWidget *parent);

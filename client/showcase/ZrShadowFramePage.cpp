@@ -1,0 +1,86 @@
+#include "ZrShadowFrame.h"
+#include "ZrShowcasePage.h"
+#include "ZrShowcasePages.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QVBoxLayout>
+
+namespace {
+constexpr QSize FrameSize(160, 96);
+constexpr int InnerPx = 8;
+
+QString text(const char *source)
+{
+    return QCoreApplication::translate("ZrShowcase", source);
+}
+
+ZrShadowFrame *withMargin(int marginPx, const QString &content)
+{
+    auto *const frame = new ZrShadowFrame;
+    frame->setMargin(marginPx);
+    frame->setFixedSize(FrameSize);
+    frame->setFocusPolicy(Qt::StrongFocus);
+    auto *const label = new QLabel(content);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignCenter);
+    auto *const layout = new QVBoxLayout(frame);
+    const int inset = marginPx + InnerPx;
+    layout->setContentsMargins(inset, inset, inset, inset);
+    layout->addWidget(label);
+    return frame;
+}
+
+ZrShadowFrame *plain()
+{
+    return withMargin(10, text("Send the order?"));
+}
+
+ZrShadowFrame *withRadius(int radius)
+{
+    ZrShadowFrame *const frame = plain();
+    frame->setRadius(radius);
+    return frame;
+}
+
+ZrShadowFrame *selected()
+{
+    ZrShadowFrame *const frame = plain();
+    frame->setSelected(true);
+    return frame;
+}
+
+ZrShadowFrame *disabled()
+{
+    ZrShadowFrame *const frame = plain();
+    frame->setEnabled(false);
+    return frame;
+}
+} // namespace
+
+ZrShowcasePage *zrMakeShadowFramePage(QWidget *parent)
+{
+    auto *const page = new ZrShowcasePage(
+        QStringLiteral("shadow-frame"), QStringLiteral("ZrShadowFrame"),
+        text("The body of a frameless window: it paints the ground, the border and a soft edge."), parent);
+    page->beginRow(text("States"));
+    page->addSample(text("Normal"), plain());
+    page->addPicture(
+        text("Focus"), [] { return plain(); }, ZrShowcasePage::State::Focus);
+    page->addSample(text("Selected"), selected());
+    page->addSample(text("Disabled"), disabled());
+    page->addSample(text("Empty"), withMargin(10, QString()));
+    page->beginRow(text("Contents"));
+    page->addSample(text("Chinese"), withMargin(10, QStringLiteral("确认发送委托？")));
+    page->addSample(text("English"), withMargin(10, QStringLiteral("Confirm the order?")));
+    page->addSample(text("Long text"),
+                    withMargin(10, text("The exchange has refused the order: price outside the limits.")));
+    page->beginRow(text("Margin"));
+    for (const int marginPx : {0, 4, 10, 16})
+        page->addSample(text("%1 px").arg(marginPx), withMargin(marginPx, text("Send the order?")));
+    page->beginRow(text("Radius"));
+    for (const int radius : {0, 6, 20, 50})
+        page->addSample(QString::number(radius), withRadius(radius));
+    return page;
+}
