@@ -20,6 +20,15 @@ QList<ZrShowcaseEntry> ZrShowcasePages::all()
         entry("log-widget", "ZrLogWidget", "frames", zrMakeLogWidgetPage),
 
         // --- editors ---
+        entry("line-edit", "ZrLineEdit", "editors", zrMakeLineEditPage),
+        entry("money-edit", "ZrMoneyQtyLineEdit", "editors", zrMakeMoneyQtyLineEditPage),
+        entry("radio-button", "ZrRadioButton", "editors", zrMakeRadioButtonPage),
+        entry("label", "ZrLabel", "editors", zrMakeLabelPage),
+        entry("quotation-label", "ZrQuotationLabel", "editors", zrMakeQuotationLabelPage),
+        entry("push-button", "ZrPushButton", "editors", zrMakePushButtonPage),
+        entry("button-group", "ZrButtonGroupWidget", "editors", zrMakeButtonGroupWidgetPage),
+        entry("date-edit", "ZrDateEdit", "editors", zrMakeDateEditPage),
+        entry("shortcut-key", "ZrShortCutKeyWidget", "editors", zrMakeShortCutKeyWidgetPage),
 
         // --- combos ---
     };
