@@ -74,6 +74,7 @@ QString ZrWorkstation::startHost()
 {
     ZrReferenceHost::Options host;
     host.configFolder = m_paths.config;
+    host.dataFolder = m_paths.data;
     host.skinRoot = m_paths.skins;
     host.skinId = m_options.skin;
     host.faults = m_options.faults;

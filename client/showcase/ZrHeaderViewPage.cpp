@@ -13,7 +13,7 @@ namespace {
 ZrTableView *shallow(ZrOrderSample::Parts parts = ZrOrderSample::Plain)
 {
     ZrTableView *const view = ZrOrderSample::make(1, parts);
-    view->setFixedHeight(parts.testFlag(ZrOrderSample::Bands) ? 76 : 50);
+    view->setFixedHeight(parts.testFlag(ZrOrderSample::Bands) ? 80 : 52);
     return view;
 }
 
@@ -22,6 +22,21 @@ ZrTableView *sorted(Qt::SortOrder order)
     ZrTableView *const view = shallow();
     view->setViewSortable(true);
     view->setSortIndicator(ZrOrderSample::Price, order);
+    return view;
+}
+
+ZrTableView *atPointer()
+{
+    ZrTableView *const view = shallow(ZrOrderSample::FilterButtons);
+    view->setViewFilterbuttonAlwayVisiable(false);
+    return view;
+}
+
+// Its middle, where the pointer stands, lies on the button of a column.
+ZrTableView *underPointer()
+{
+    ZrTableView *const view = atPointer();
+    view->setFixedHeight(28);
     return view;
 }
 
@@ -47,14 +62,14 @@ ZrTableView *filtered()
 ZrTableView *withMark()
 {
     ZrTableView *const view = shallow();
-    view->setHeadTip(ZrOrderSample::Price, ZrShowcase::tr("The limit price, in the currency of the venue"));
+    view->setHeadTip(ZrOrderSample::Quantity, ZrShowcase::tr("In shares"));
     return view;
 }
 
 ZrTableView *checked(int checkedRows)
 {
     ZrTableView *const view = ZrOrderSample::make(2, ZrOrderSample::CheckBoxes);
-    view->setFixedHeight(72);
+    view->setFixedHeight(76);
     for (int row = 0; row < checkedRows; ++row)
         view->setCheckStatusByRow(row, true);
     return view;
@@ -77,15 +92,9 @@ void addHeads(ZrShowcasePage *page)
     page->addSample(ZrShowcase::tr("Bands"), shallow(ZrOrderSample::Bands));
     page->addSample(ZrShowcase::tr("Help mark"), withMark());
     page->beginRow(ZrShowcase::tr("Filter buttons"));
-    page->addSample(ZrShowcase::tr("Shown at the pointer"), shallow(ZrOrderSample::FilterButtons));
+    page->addSample(ZrShowcase::tr("Shown at the pointer"), atPointer());
     page->addPicture(
-        ZrShowcase::tr("Hover"),
-        []() -> QWidget * {
-            ZrTableView *const view = shallow(ZrOrderSample::FilterButtons);
-            view->setFixedHeight(view->getZrTableHorizontalHeader()->sizeHint().height());
-            return view;
-        },
-        ZrShowcasePage::State::Hover);
+        ZrShowcase::tr("Hover"), [] { return underPointer(); }, ZrShowcasePage::State::Hover);
     page->addSample(ZrShowcase::tr("Always shown"), withButtons());
     page->addSample(ZrShowcase::tr("Filtered by side"), filtered());
     page->beginRow(ZrShowcase::tr("Check boxes"));

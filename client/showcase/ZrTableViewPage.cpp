@@ -40,9 +40,10 @@ ZrTableView *withAllChecked()
 // Wider than its place, so that the frozen columns stand over others.
 ZrTableView *withFrozen()
 {
-    ZrTableView *const view = ZrOrderSample::make(ZrOrderSample::MostRows);
-    for (int column = ZrOrderSample::OrderNo; column <= ZrOrderSample::Quantity; ++column)
-        view->setColumnWidth(column, 124);
+    ZrTableView *const view = ZrOrderSample::make(5);
+    view->setStretchLastSection(false);
+    for (int column = ZrOrderSample::Symbol; column <= ZrOrderSample::Quantity; ++column)
+        view->setColumnWidth(column, 96);
     view->setFrozenColumns(1, true, 1);
     view->setFrozenColumns(2, true, 1);
     return view;
@@ -51,8 +52,8 @@ ZrTableView *withFrozen()
 ZrTableView *withSummary()
 {
     ZrTableView *const view = ZrOrderSample::make(4, ZrOrderSample::SerialNumbers);
-    view->setSummaryLineEnable(true, {ZrOrderSample::OrderNo, ZrOrderSample::Symbol, ZrOrderSample::Name,
-                                      ZrOrderSample::Side, ZrOrderSample::Price});
+    view->setSummaryLineEnable(
+        true, {ZrOrderSample::Symbol, ZrOrderSample::Name, ZrOrderSample::Side, ZrOrderSample::Price});
     return view;
 }
 
@@ -82,8 +83,7 @@ void addGrids(ZrShowcasePage *page)
     page->addSample(ZrShowcase::tr("Some checked, one disabled"), withChecks());
     page->addSample(ZrShowcase::tr("All checked"), withAllChecked());
     page->beginRow(ZrShowcase::tr("Columns"));
-    page->addSample(ZrShowcase::tr("Bands"),
-                    ZrOrderSample::make(ZrOrderSample::MostRows, ZrOrderSample::Bands));
+    page->addSample(ZrShowcase::tr("Bands"), ZrOrderSample::make(4, ZrOrderSample::Bands));
     page->addSample(ZrShowcase::tr("Frozen left and right"), withFrozen());
     page->addSample(ZrShowcase::tr("Numbers and summary"), withSummary());
 }
