@@ -76,3 +76,4 @@ ZrBenchCases gridPaintBenches();
 ZrBenchCases gridMemoryBenches();
 ZrBenchCases mapBenches();
 ZrBenchCases busBenches();
+ZrBenchCases editorBenches();

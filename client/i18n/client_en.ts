@@ -261,6 +261,145 @@
         <source>Order blotter</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Showcase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A page for each widget, with all its states</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrShowcase</name>
+    <message>
+        <source>Titles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorted upwards</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorted downwards</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bands</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter buttons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shown at the pointer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hover</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Always shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filtered by side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check boxes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None checked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some checked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All checked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The head of a grid: sorting, filter buttons, bands over columns, a check box for all rows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Buy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sell</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Long text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some checked, one disabled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Frozen left and right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Numbers and summary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A live grid of keyed records, with check boxes, frozen columns, bands and a summary.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In shares</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Orders</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ZrStatusLine</name>

@@ -261,6 +261,145 @@
         <source>Order blotter</source>
         <translation>委托列表</translation>
     </message>
+    <message>
+        <source>Showcase</source>
+        <translation>控件展示</translation>
+    </message>
+    <message>
+        <source>A page for each widget, with all its states</source>
+        <translation>每个控件一页，列出它的各种状态</translation>
+    </message>
+</context>
+<context>
+    <name>ZrShowcase</name>
+    <message>
+        <source>Titles</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>正常</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>禁用</translation>
+    </message>
+    <message>
+        <source>Sorted upwards</source>
+        <translation>升序</translation>
+    </message>
+    <message>
+        <source>Sorted downwards</source>
+        <translation>降序</translation>
+    </message>
+    <message>
+        <source>Bands</source>
+        <translation>分组表头</translation>
+    </message>
+    <message>
+        <source>Help mark</source>
+        <translation>帮助标记</translation>
+    </message>
+    <message>
+        <source>Filter buttons</source>
+        <translation>筛选按钮</translation>
+    </message>
+    <message>
+        <source>Shown at the pointer</source>
+        <translation>指针所在处显示</translation>
+    </message>
+    <message>
+        <source>Hover</source>
+        <translation>悬停</translation>
+    </message>
+    <message>
+        <source>Always shown</source>
+        <translation>始终显示</translation>
+    </message>
+    <message>
+        <source>Filtered by side</source>
+        <translation>按方向筛选</translation>
+    </message>
+    <message>
+        <source>Check boxes</source>
+        <translation>复选框</translation>
+    </message>
+    <message>
+        <source>None checked</source>
+        <translation>全未勾选</translation>
+    </message>
+    <message>
+        <source>Some checked</source>
+        <translation>部分勾选</translation>
+    </message>
+    <message>
+        <source>All checked</source>
+        <translation>全部勾选</translation>
+    </message>
+    <message>
+        <source>The head of a grid: sorting, filter buttons, bands over columns, a check box for all rows.</source>
+        <translation>表格的表头：排序、筛选按钮、列分组以及全选复选框。</translation>
+    </message>
+    <message>
+        <source>Buy</source>
+        <translation>买入</translation>
+    </message>
+    <message>
+        <source>Sell</source>
+        <translation>卖出</translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation>证券</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Current row</source>
+        <translation>当前行</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>焦点</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>Long text</source>
+        <translation>长文本</translation>
+    </message>
+    <message>
+        <source>Some checked, one disabled</source>
+        <translation>部分勾选，一行禁用</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>Frozen left and right</source>
+        <translation>左右冻结</translation>
+    </message>
+    <message>
+        <source>Numbers and summary</source>
+        <translation>序号与合计</translation>
+    </message>
+    <message>
+        <source>A live grid of keyed records, with check boxes, frozen columns, bands and a summary.</source>
+        <translation>按键更新的实时表格，带复选框、冻结列、分组表头与合计行。</translation>
+    </message>
+    <message>
+        <source>In shares</source>
+        <translation>以股计</translation>
+    </message>
+    <message>
+        <source>Orders</source>
+        <translation>委托</translation>
+    </message>
 </context>
 <context>
     <name>ZrStatusLine</name>

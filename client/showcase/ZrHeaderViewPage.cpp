@@ -1,5 +1,6 @@
 #include "ZrHeaderView.h"
 #include "ZrOrderSample.h"
+#include "ZrShowcase.h"
 #include "ZrShowcasePage.h"
 #include "ZrShowcasePages.h"
 #include "ZrTableView.h"
@@ -7,19 +8,12 @@
 #include "zrdefine/VexlorFields.h"
 #include "zrdefine/VexlorValues.h"
 
-#include <QtCore/QCoreApplication>
-
 namespace {
-QString text(const char *source)
-{
-    return QCoreApplication::translate("ZrShowcase", source);
-}
-
 // The head and one row to show that it is a head.
 ZrTableView *shallow(ZrOrderSample::Parts parts = ZrOrderSample::Plain)
 {
     ZrTableView *const view = ZrOrderSample::make(1, parts);
-    view->setFixedHeight(parts.testFlag(ZrOrderSample::Bands) ? 76 : 50);
+    view->setFixedHeight(parts.testFlag(ZrOrderSample::Bands) ? 80 : 52);
     return view;
 }
 
@@ -28,6 +22,21 @@ ZrTableView *sorted(Qt::SortOrder order)
     ZrTableView *const view = shallow();
     view->setViewSortable(true);
     view->setSortIndicator(ZrOrderSample::Price, order);
+    return view;
+}
+
+ZrTableView *atPointer()
+{
+    ZrTableView *const view = shallow(ZrOrderSample::FilterButtons);
+    view->setViewFilterbuttonAlwayVisiable(false);
+    return view;
+}
+
+// Its middle, where the pointer stands, lies on the button of a column.
+ZrTableView *underPointer()
+{
+    ZrTableView *const view = atPointer();
+    view->setFixedHeight(28);
     return view;
 }
 
@@ -53,14 +62,14 @@ ZrTableView *filtered()
 ZrTableView *withMark()
 {
     ZrTableView *const view = shallow();
-    view->setHeadTip(ZrOrderSample::Price, text("The limit price, in the currency of the venue"));
+    view->setHeadTip(ZrOrderSample::Quantity, ZrShowcase::tr("In shares"));
     return view;
 }
 
 ZrTableView *checked(int checkedRows)
 {
     ZrTableView *const view = ZrOrderSample::make(2, ZrOrderSample::CheckBoxes);
-    view->setFixedHeight(72);
+    view->setFixedHeight(76);
     for (int row = 0; row < checkedRows; ++row)
         view->setCheckStatusByRow(row, true);
     return view;
@@ -75,29 +84,23 @@ ZrTableView *disabled()
 
 void addHeads(ZrShowcasePage *page)
 {
-    page->beginRow(text("Titles"));
-    page->addSample(text("Normal"), shallow());
-    page->addSample(text("Disabled"), disabled());
-    page->addSample(text("Sorted upwards"), sorted(Qt::AscendingOrder));
-    page->addSample(text("Sorted downwards"), sorted(Qt::DescendingOrder));
-    page->addSample(text("Bands"), shallow(ZrOrderSample::Bands));
-    page->addSample(text("Help mark"), withMark());
-    page->beginRow(text("Filter buttons"));
-    page->addSample(text("Shown at the pointer"), shallow(ZrOrderSample::FilterButtons));
+    page->beginRow(ZrShowcase::tr("Titles"));
+    page->addSample(ZrShowcase::tr("Normal"), shallow());
+    page->addSample(ZrShowcase::tr("Disabled"), disabled());
+    page->addSample(ZrShowcase::tr("Sorted upwards"), sorted(Qt::AscendingOrder));
+    page->addSample(ZrShowcase::tr("Sorted downwards"), sorted(Qt::DescendingOrder));
+    page->addSample(ZrShowcase::tr("Bands"), shallow(ZrOrderSample::Bands));
+    page->addSample(ZrShowcase::tr("Help mark"), withMark());
+    page->beginRow(ZrShowcase::tr("Filter buttons"));
+    page->addSample(ZrShowcase::tr("Shown at the pointer"), atPointer());
     page->addPicture(
-        text("Hover"),
-        []() -> QWidget * {
-            ZrTableView *const view = shallow(ZrOrderSample::FilterButtons);
-            view->setFixedHeight(view->getZrTableHorizontalHeader()->sizeHint().height());
-            return view;
-        },
-        ZrShowcasePage::State::Hover);
-    page->addSample(text("Always shown"), withButtons());
-    page->addSample(text("Filtered by side"), filtered());
-    page->beginRow(text("Check boxes"));
-    page->addSample(text("None checked"), checked(0));
-    page->addSample(text("Some checked"), checked(1));
-    page->addSample(text("All checked"), checked(2));
+        ZrShowcase::tr("Hover"), [] { return underPointer(); }, ZrShowcasePage::State::Hover);
+    page->addSample(ZrShowcase::tr("Always shown"), withButtons());
+    page->addSample(ZrShowcase::tr("Filtered by side"), filtered());
+    page->beginRow(ZrShowcase::tr("Check boxes"));
+    page->addSample(ZrShowcase::tr("None checked"), checked(0));
+    page->addSample(ZrShowcase::tr("Some checked"), checked(1));
+    page->addSample(ZrShowcase::tr("All checked"), checked(2));
 }
 } // namespace
 
@@ -105,7 +108,8 @@ ZrShowcasePage *zrMakeHeaderViewPage(QWidget *parent)
 {
     auto *const page = new ZrShowcasePage(
         QStringLiteral("header-view"), QStringLiteral("ZrHeaderView"),
-        text("The head of a grid: sorting, filter buttons, bands over columns, a check box for all rows."),
+        ZrShowcase::tr(
+            "The head of a grid: sorting, filter buttons, bands over columns, a check box for all rows."),
         parent);
     addHeads(page);
     return page;

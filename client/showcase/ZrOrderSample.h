@@ -25,11 +25,11 @@ public:
     };
     Q_DECLARE_FLAGS(Parts, Part)
 
-    enum Column { OrderNo, Symbol, Name, Side, Price, Quantity };
+    enum Column { Symbol, Name, Side, Price, Quantity };
     static constexpr int MostRows = 6;
 
     /// At most MostRows rows.
     static ZrTableView *make(int rows, Parts parts = Plain);
     /// The grid's size on a page: whole columns of the page's grid.
-    static QSize size() { return {512, 190}; }
+    static QSize size() { return {368, 164}; }
 };

@@ -50,12 +50,15 @@ int ZrShowcaseGrid::heightForWidth(int width) const
     return layOut(QRect(0, 0, width, 0), false);
 }
 
+// Room for any one of them: how high all lines are depends on the width, which is not known here.
 QSize ZrShowcaseGrid::minimumSize() const
 {
-    int width = ColumnPx;
-    for (const QLayoutItem *const item : m_items)
-        width = qMax(width, columnsOf(item) * Pitch - GapPx);
-    return {width, heightForWidth(qMax(width, geometry().width()))};
+    QSize size(ColumnPx, 0);
+    for (const QLayoutItem *const item : m_items) {
+        const int width = columnsOf(item) * Pitch - GapPx;
+        size = size.expandedTo({width, heightOf(item, width)});
+    }
+    return size;
 }
 
 void ZrShowcaseGrid::setGeometry(const QRect &rect)

@@ -12,7 +12,7 @@
 class ZrShowcaseGrid : public QLayout
 {
 public:
-    static constexpr int ColumnPx = 160;
+    static constexpr int ColumnPx = 176;
     static constexpr int GapPx = 16;
 
     explicit ZrShowcaseGrid(QWidget *parent);

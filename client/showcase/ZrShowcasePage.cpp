@@ -21,6 +21,7 @@ QLabel *makeLabel(const char *name, const QString &text, QWidget *parent)
     auto *const label = new QLabel(parent);
     label->setObjectName(QString::fromLatin1(name));
     label->setTextFormat(Qt::PlainText);
+    label->setIndent(0); // one with a line below it would be indented
     label->setText(text);
     return label;
 }
@@ -36,6 +37,8 @@ ZrShowcasePage::ZrShowcasePage(const QString &id, const QString &title, const QS
 {
     setObjectName(id);
     setAccessibleName(title);
+    // Before any part is laid out: what was polished under other sheets would keep their look.
+    ZrCore::instance()->addStyle2View(this, Constants::SKIN_SYSTEM + QStringLiteral("client/showcase.css"));
     m_area->setObjectName(QStringLiteral("showcaseArea"));
     m_area->setAccessibleName(title);
     m_area->setFrameShape(QFrame::NoFrame);
@@ -47,9 +50,8 @@ ZrShowcasePage::ZrShowcasePage(const QString &id, const QString &title, const QS
     whole->addWidget(m_area);
     addHeader(purpose);
     m_area->setWidget(m_content);
-    ZrCore::instance()->addStyle2View(this, Constants::SKIN_SYSTEM + QStringLiteral("client/showcase.css"));
     // Every view has its new sheet by the time of this signal.
-    connect(ZrCore::instance(), &ZrCore::signalSkinChanged, this, &ZrShowcasePage::takePictures);
+    connect(ZrCore::instance(), &ZrCore::signalSkinChanged, this, &ZrShowcasePage::skinChanged);
 }
 
 void ZrShowcasePage::addHeader(const QString &purpose)
@@ -83,6 +85,7 @@ QWidget *ZrShowcasePage::addCell(const QString &caption, QWidget *shown)
     if (!m_row)
         beginRow(QString());
     auto *const cell = new QWidget(m_row->parentWidget());
+    cell->setObjectName(QStringLiteral("showcaseCell"));
     auto *const column = new QVBoxLayout(cell);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(CaptionGapPx);
@@ -113,7 +116,9 @@ void ZrShowcasePage::addPicture(const QString &caption, const Maker &make, State
     picture->setAccessibleName(caption);
     m_pictures.append(picture);
     addCell(caption, picture);
-    if (isVisible())
+    if (m_outdated || !isVisible())
+        m_outdated = true;
+    else
         picture->take();
 }
 
@@ -126,17 +131,28 @@ void ZrShowcasePage::loadSkin(const QVariant &css)
 // Not earlier: the sheets of the windows around it are part of a widget's look.
 void ZrShowcasePage::showEvent(QShowEvent *event)
 {
-    takePictures();
+    if (m_outdated)
+        takePictures();
     QWidget::showEvent(event);
+}
+
+void ZrShowcasePage::skinChanged()
+{
+    m_outdated = true;
+    if (isVisible())
+        takePictures();
 }
 
 void ZrShowcasePage::takePictures()
 {
+    m_outdated = false;
     for (ZrShowcasePicture *const picture : qAsConst(m_pictures))
         picture->take();
 }
 
 QPixmap ZrShowcasePage::grabWhole()
 {
-    return m_content->grab();
+    // On a short page the content fills the dock.
+    const int needed = m_content->heightForWidth(m_content->width());
+    return m_content->grab({0, 0, m_content->width(), qMin(needed, m_content->height())});
 }

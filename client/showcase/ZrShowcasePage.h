@@ -53,6 +53,7 @@ protected:
 private:
     void addHeader(const QString &purpose);
     QWidget *addCell(const QString &caption, QWidget *shown);
+    void skinChanged();
     void takePictures();
 
     const QString m_id;
@@ -61,4 +62,5 @@ private:
     QWidget *m_content;
     ZrShowcaseGrid *m_row = nullptr; // the row that samples go to
     QList<ZrShowcasePicture *> m_pictures;
+    bool m_outdated = true; // the pictures are to be taken when the page is seen next
 };

@@ -14,8 +14,21 @@ QList<ZrShowcaseEntry> ZrShowcasePages::all()
         // --- dialogs ---
 
         // --- frames ---
+        entry("shadow-frame", "ZrShadowFrame", "frames", zrMakeShadowFramePage),
+        entry("loading-frame", "ZrLoadingFrame", "frames", zrMakeLoadingFramePage),
+        entry("menu", "ZrMenu", "frames", zrMakeMenuPage),
+        entry("log-widget", "ZrLogWidget", "frames", zrMakeLogWidgetPage),
 
         // --- editors ---
+        entry("line-edit", "ZrLineEdit", "editors", zrMakeLineEditPage),
+        entry("money-edit", "ZrMoneyQtyLineEdit", "editors", zrMakeMoneyQtyLineEditPage),
+        entry("radio-button", "ZrRadioButton", "editors", zrMakeRadioButtonPage),
+        entry("label", "ZrLabel", "editors", zrMakeLabelPage),
+        entry("quotation-label", "ZrQuotationLabel", "editors", zrMakeQuotationLabelPage),
+        entry("push-button", "ZrPushButton", "editors", zrMakePushButtonPage),
+        entry("button-group", "ZrButtonGroupWidget", "editors", zrMakeButtonGroupWidgetPage),
+        entry("date-edit", "ZrDateEdit", "editors", zrMakeDateEditPage),
+        entry("shortcut-key", "ZrShortCutKeyWidget", "editors", zrMakeShortCutKeyWidgetPage),
 
         // --- combos ---
     };

@@ -29,7 +29,20 @@ ZrShowcasePage *zrMakeHeaderViewPage(QWidget *parent);
 // --- dialogs ---
 
 // --- frames ---
+ZrShowcasePage *zrMakeShadowFramePage(QWidget *parent);
+ZrShowcasePage *zrMakeLoadingFramePage(QWidget *parent);
+ZrShowcasePage *zrMakeMenuPage(QWidget *parent);
+ZrShowcasePage *zrMakeLogWidgetPage(QWidget *parent);
 
 // --- editors ---
+ZrShowcasePage *zrMakeLineEditPage(QWidget *parent);
+ZrShowcasePage *zrMakeMoneyQtyLineEditPage(QWidget *parent);
+ZrShowcasePage *zrMakeRadioButtonPage(QWidget *parent);
+ZrShowcasePage *zrMakeLabelPage(QWidget *parent);
+ZrShowcasePage *zrMakeQuotationLabelPage(QWidget *parent);
+ZrShowcasePage *zrMakePushButtonPage(QWidget *parent);
+ZrShowcasePage *zrMakeButtonGroupWidgetPage(QWidget *parent);
+ZrShowcasePage *zrMakeDateEditPage(QWidget *parent);
+ZrShowcasePage *zrMakeShortCutKeyWidgetPage(QWidget *parent);
 
 // --- combos ---

@@ -51,6 +51,7 @@ ZrShowcaseStage::ZrShowcaseStage(QWidget *widget, const QStringList &sheets)
 
 void ZrShowcaseStage::enter(ZrShowcasePage::State state)
 {
+    picture(1); // some parts can be hit only once they were painted
     switch (state) {
     case ZrShowcasePage::State::Hover:
         hover();

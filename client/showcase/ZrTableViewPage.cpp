@@ -1,17 +1,11 @@
 #include "ZrOrderSample.h"
 #include "ZrRoleKeys.h"
+#include "ZrShowcase.h"
 #include "ZrShowcasePage.h"
 #include "ZrShowcasePages.h"
 #include "ZrTableView.h"
 
-#include <QtCore/QCoreApplication>
-
 namespace {
-QString text(const char *source)
-{
-    return QCoreApplication::translate("ZrShowcase", source);
-}
-
 ZrTableView *withSelection()
 {
     ZrTableView *const view = ZrOrderSample::make(ZrOrderSample::MostRows);
@@ -46,9 +40,10 @@ ZrTableView *withAllChecked()
 // Wider than its place, so that the frozen columns stand over others.
 ZrTableView *withFrozen()
 {
-    ZrTableView *const view = ZrOrderSample::make(ZrOrderSample::MostRows);
-    for (int column = ZrOrderSample::OrderNo; column <= ZrOrderSample::Quantity; ++column)
-        view->setColumnWidth(column, 124);
+    ZrTableView *const view = ZrOrderSample::make(5);
+    view->setStretchLastSection(false);
+    for (int column = ZrOrderSample::Symbol; column <= ZrOrderSample::Quantity; ++column)
+        view->setColumnWidth(column, 96);
     view->setFrozenColumns(1, true, 1);
     view->setFrozenColumns(2, true, 1);
     return view;
@@ -57,8 +52,8 @@ ZrTableView *withFrozen()
 ZrTableView *withSummary()
 {
     ZrTableView *const view = ZrOrderSample::make(4, ZrOrderSample::SerialNumbers);
-    view->setSummaryLineEnable(true, {ZrOrderSample::OrderNo, ZrOrderSample::Symbol, ZrOrderSample::Name,
-                                      ZrOrderSample::Side, ZrOrderSample::Price});
+    view->setSummaryLineEnable(
+        true, {ZrOrderSample::Symbol, ZrOrderSample::Name, ZrOrderSample::Side, ZrOrderSample::Price});
     return view;
 }
 
@@ -76,21 +71,21 @@ ZrTableView *withLongTexts()
 
 void addGrids(ZrShowcasePage *page)
 {
-    page->beginRow(text("Rows"));
-    page->addSample(text("Normal"), ZrOrderSample::make(ZrOrderSample::MostRows));
-    page->addSample(text("Current row"), withSelection());
+    page->beginRow(ZrShowcase::tr("Rows"));
+    page->addSample(ZrShowcase::tr("Normal"), ZrOrderSample::make(ZrOrderSample::MostRows));
+    page->addSample(ZrShowcase::tr("Current row"), withSelection());
     page->addPicture(
-        text("Focus"), [] { return withSelection(); }, ZrShowcasePage::State::Focus);
-    page->addSample(text("Disabled"), disabled());
-    page->addSample(text("Empty"), ZrOrderSample::make(0));
-    page->addSample(text("Long text"), withLongTexts());
-    page->beginRow(text("Check boxes"));
-    page->addSample(text("Some checked, one disabled"), withChecks());
-    page->addSample(text("All checked"), withAllChecked());
-    page->beginRow(text("Columns"));
-    page->addSample(text("Bands"), ZrOrderSample::make(ZrOrderSample::MostRows, ZrOrderSample::Bands));
-    page->addSample(text("Frozen left and right"), withFrozen());
-    page->addSample(text("Numbers and summary"), withSummary());
+        ZrShowcase::tr("Focus"), [] { return withSelection(); }, ZrShowcasePage::State::Focus);
+    page->addSample(ZrShowcase::tr("Disabled"), disabled());
+    page->addSample(ZrShowcase::tr("Empty"), ZrOrderSample::make(0));
+    page->addSample(ZrShowcase::tr("Long text"), withLongTexts());
+    page->beginRow(ZrShowcase::tr("Check boxes"));
+    page->addSample(ZrShowcase::tr("Some checked, one disabled"), withChecks());
+    page->addSample(ZrShowcase::tr("All checked"), withAllChecked());
+    page->beginRow(ZrShowcase::tr("Columns"));
+    page->addSample(ZrShowcase::tr("Bands"), ZrOrderSample::make(4, ZrOrderSample::Bands));
+    page->addSample(ZrShowcase::tr("Frozen left and right"), withFrozen());
+    page->addSample(ZrShowcase::tr("Numbers and summary"), withSummary());
 }
 } // namespace
 
@@ -98,7 +93,9 @@ ZrShowcasePage *zrMakeTableViewPage(QWidget *parent)
 {
     auto *const page = new ZrShowcasePage(
         QStringLiteral("table-view"), QStringLiteral("ZrTableView"),
-        text("A live grid of keyed records, with check boxes, frozen columns, bands and a summary."), parent);
+        ZrShowcase::tr(
+            "A live grid of keyed records, with check boxes, frozen columns, bands and a summary."),
+        parent);
     addGrids(page);
     return page;
 }

@@ -23,6 +23,9 @@ bool isLineEnd(QChar unit)
 /// Whether the toolkit breaks a line at this character by itself.
 bool endsWord(QChar unit)
 {
+    constexpr ushort figureSpace = 0x2007, narrowNoBreakSpace = 0x202F;
+    if (unit == QChar::Nbsp || unit.unicode() == figureSpace || unit.unicode() == narrowNoBreakSpace)
+        return false;
     const QChar::Script script = unit.script();
     return unit.isSpace() || unit.unicode() == breakHere || script == QChar::Script_Han ||
            script == QChar::Script_Hiragana || script == QChar::Script_Katakana ||
@@ -33,6 +36,14 @@ bool endsWord(QChar unit)
 bool mayStartLine(QChar unit)
 {
     return !unit.isLowSurrogate() && !unit.isMark();
+}
+
+/// The last position up to `place`, not before `least`, at which a text may be cut.
+int characterStart(const QString &text, int place, int least)
+{
+    while (place > least && place < text.size() && !mayStartLine(text.at(place)))
+        --place;
+    return place;
 }
 
 /// Where the last character ends that lies within the bound.
@@ -48,9 +59,41 @@ int boundedEnd(const QString &text, ZrPlainText::Bound bound)
         if (isLineEnd(text.at(end)) && !isSecondHalf && ++lines > bound.lines)
             break;
     }
-    while (end > 0 && end < text.size() && !mayStartLine(text.at(end)))
-        --end;
+    return characterStart(text, end, 0);
+}
+
+/// Where the line that `start` is in ends.
+int lineEnd(const QString &text, int start)
+{
+    int end = start;
+    while (end < text.size() && !isLineEnd(text.at(end)))
+        ++end;
     return end;
+}
+
+/// The text, with mark() for what stands beyond `most` characters of a line.
+QString withShortLines(const QString &text, int most)
+{
+    QString result;
+    int done = 0; // of `text`, what `result` holds already or leaves out
+    for (int start = 0; start < text.size();) {
+        const int end = lineEnd(text, start);
+        if (end - start > most) {
+            const int kept = characterStart(text, start + qMax(0, most), start);
+            result.append(text.midRef(done, kept - done)).append(ZrPlainText::mark());
+            done = end;
+        }
+        start = end + 1;
+    }
+    // The usual text has no such line and is handed back as it came.
+    return done == 0 ? text : result + text.midRef(done);
+}
+
+ZrPlainText::Bound withAnyLines(ZrPlainText::Bound bound)
+{
+    bound.lines = std::numeric_limits<int>::max();
+    bound.lineCharacters = bound.characters;
+    return bound;
 }
 
 /// Where the word that begins at `start` ends.
@@ -117,7 +160,7 @@ void ZrPlainText::setCaption(QLabel *label, const QString &text, Bound bound)
     // Without a minimum of its own a label claims the width of its text from the window.
     if (label->minimumWidth() == 0)
         label->setMinimumWidth(1);
-    label->setText(onOneLine(beginning(text, {bound.characters, std::numeric_limits<int>::max()})));
+    label->setText(onOneLine(beginning(text, withAnyLines(bound))));
 }
 
 void ZrPlainText::setText(QTextEdit *edit, const QString &text, Bound bound)
@@ -135,6 +178,8 @@ void ZrPlainText::appendLine(QTextEdit *edit, const QString &text, Bound bound)
     wrapAnywhere(edit);
     edit->moveCursor(QTextCursor::End);
     edit->insertPlainText(beginning(text, bound) + QStringLiteral("\r\n"));
+    // The edit scrolls before it knows the height of what came in.
+    edit->ensureCursorVisible();
 }
 
 void ZrPlainText::setToolTip(QWidget *widget, const QString &text)
@@ -150,14 +195,17 @@ QString ZrPlainText::toolTip(const QString &text)
 
 QString ZrPlainText::caption(const QString &text, Bound bound)
 {
-    QString line = onOneLine(beginning(text, {bound.characters, std::numeric_limits<int>::max()}));
+    QString line = onOneLine(beginning(text, withAnyLines(bound)));
     return line.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
 QString ZrPlainText::beginning(const QString &text, Bound bound)
 {
     const int end = boundedEnd(text, bound);
-    return end == text.size() ? text : text.left(end) + mark();
+    if (end == text.size())
+        return withShortLines(text, bound.lineCharacters);
+    const QString part = withShortLines(text.left(end), bound.lineCharacters);
+    return part.endsWith(mark()) ? part : part + mark();
 }
 
 QString ZrPlainText::breakable(const QString &text)

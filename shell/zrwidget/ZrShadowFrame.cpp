@@ -12,19 +12,16 @@ constexpr int innermostAlpha = 150;
 constexpr int fade = 50;    // per square root of the distance, in px
 constexpr int maxRings = 9; // the next one would have an alpha of 0
 
-// What addRoundRect of QPainterPath takes at most.
-constexpr int mostPercent = 99;
-
 /// The frame's radius is the roundness of QPainterPath::addRoundRect, which the skins' values are chosen for
 /// and which the toolkit is giving up: a percentage of half the shorter side, on the longer side cut down to
 /// a whole percentage for about the same arc. On a very long frame that's 0, and the corners are square.
 void addRound(QPainterPath *path, const QRectF &rect, int roundness)
 {
-    const qreal longer = qMax(rect.width(), rect.height());
-    const int alongLonger = int(roundness * (qMin(rect.width(), rect.height()) / longer));
-    const int x = rect.width() > rect.height() ? alongLonger : roundness;
-    const int y = rect.width() > rect.height() ? roundness : alongLonger;
-    path->addRoundedRect(rect, qMin(x, mostPercent), qMin(y, mostPercent), Qt::RelativeSize);
+    const qreal shorter = qMin(rect.width(), rect.height());
+    const int alongLonger = int(roundness * shorter / qMax(rect.width(), rect.height()));
+    const bool isWide = rect.width() > rect.height();
+    path->addRoundedRect(rect, isWide ? alongLonger : roundness, isWide ? roundness : alongLonger,
+                         Qt::RelativeSize);
 }
 
 } // namespace

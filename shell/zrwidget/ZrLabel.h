@@ -1,0 +1,41 @@
+#pragma once
+
+#include "ZrFieldRoles.h"
+#include "zrwidget_global.h"
+
+#include <QtWidgets/QLabel>
+
+/// A label that carries its form's data and has two switches for style sheets.
+///
+/// Shape:     a QLabel with a role map (see ZrFieldRoles) and the properties below, which select rules:
+///            ZrLabel[checked="true"], ZrLabel[textColorFlag="warn"]. What a flag means is the sheet's
+///            affair.
+/// Ownership: normal QWidget parent rules.
+/// Threads:   GUI thread only.
+/// Errors:    a role that was never set reads as an invalid variant.
+/// Not supported: rich text, unless the caller sets the text format; labels show names from outside.
+class ZRWIDGET_EXPORT ZrLabel : public QLabel
+{
+    Q_OBJECT
+    Q_PROPERTY(bool checked READ isChecked WRITE setChecked)
+    Q_PROPERTY(QString textColorFlag READ textColorFlag WRITE setTextColorFlag)
+public:
+    explicit ZrLabel(QWidget *parent = nullptr);
+    explicit ZrLabel(const QString &text, QWidget *parent = nullptr);
+    ~ZrLabel() override;
+
+    bool isChecked() const;
+    void setChecked(bool checked);
+    QString textColorFlag() const;
+    void setTextColorFlag(const QString &flag);
+
+    QVariant getRoleData(int role) const;
+    void setRoleData(int role, QVariant value);
+
+private:
+    void applySheet();
+
+    ZrFieldRoles m_roles;
+    bool m_checked = false;
+    QString m_textColorFlag;
+};
