@@ -29,9 +29,52 @@
     </message>
 </context>
 <context>
+    <name>ZrLoadingFrame</name>
+    <message>
+        <source>Loading</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrLogWidget</name>
+    <message>
+        <source>Waiting for data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrMultiComboBox</name>
+    <message>
+        <source>Selected items</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrMultiComboList</name>
+    <message>
+        <source>Choices</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ZrPresenterClass</name>
     <message>
         <source>request timeout</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrShortCutKeyWidget</name>
+    <message>
+        <source>直接按键盘进行设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shortcut key</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
