@@ -1,21 +1,16 @@
 #include "ZrLoadingFrame.h"
 #include "ZrOrderSample.h"
+#include "ZrShowcase.h"
 #include "ZrShowcasePage.h"
 #include "ZrShowcasePages.h"
 #include "ZrTableView.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
 namespace {
 constexpr int Loading = 1;
 constexpr int Finished = 2;
-
-QString text(const char *source)
-{
-    return QCoreApplication::translate("ZrShowcase", source);
-}
 
 /// A grid under a cover.
 class CoveredGrid : public QWidget
@@ -26,7 +21,7 @@ public:
         , m_cover(new ZrLoadingFrame(this))
     {
         m_grid->setParent(this);
-        m_grid->setAccessibleName(text("Orders"));
+        m_grid->setAccessibleName(ZrShowcase::tr("Orders"));
         m_cover->raise();
         m_cover->hide();
         setFixedSize(ZrOrderSample::size());
@@ -70,7 +65,7 @@ QWidget *live()
 {
     auto *const sample = new QWidget;
     auto *const covered = new CoveredGrid(ZrOrderSample::MostRows);
-    auto *const button = new QPushButton(text("Load"));
+    auto *const button = new QPushButton(ZrShowcase::tr("Load"));
     button->setCheckable(true);
     auto *const layout = new QVBoxLayout(sample);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -84,16 +79,16 @@ QWidget *live()
 
 ZrShowcasePage *zrMakeLoadingFramePage(QWidget *parent)
 {
-    auto *const page =
-        new ZrShowcasePage(QStringLiteral("loading-frame"), QStringLiteral("ZrLoadingFrame"),
-                           text("Covers a plugin with a moving picture while its data load."), parent);
-    page->beginRow(text("States"));
-    page->addSample(text("Before the first picture"), standingAt(0));
-    page->addSample(text("First picture"), standingAt(1));
-    page->addSample(text("Sixth picture"), standingAt(6));
-    page->addSample(text("Over an empty grid"), standingAt(1, 0));
-    page->addSample(text("Disabled"), disabled());
-    page->beginRow(text("Try it"));
-    page->addSample(text("Finished"), live());
+    auto *const page = new ZrShowcasePage(
+        QStringLiteral("loading-frame"), QStringLiteral("ZrLoadingFrame"),
+        ZrShowcase::tr("Covers a plugin with a moving picture while its data load."), parent);
+    page->beginRow(ZrShowcase::tr("States"));
+    page->addSample(ZrShowcase::tr("Before the first picture"), standingAt(0));
+    page->addSample(ZrShowcase::tr("First picture"), standingAt(1));
+    page->addSample(ZrShowcase::tr("Sixth picture"), standingAt(6));
+    page->addSample(ZrShowcase::tr("Over an empty grid"), standingAt(1, 0));
+    page->addSample(ZrShowcase::tr("Disabled"), disabled());
+    page->beginRow(ZrShowcase::tr("Try it"));
+    page->addSample(ZrShowcase::tr("Finished"), live());
     return page;
 }

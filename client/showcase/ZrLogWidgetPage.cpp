@@ -1,19 +1,14 @@
 #include "ZrLogWidget.h"
+#include "ZrShowcase.h"
 #include "ZrShowcasePage.h"
 #include "ZrShowcasePages.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
 namespace {
 constexpr QSize WidgetSize(336, 168);
 constexpr int ManyLines = 40;
-
-QString text(const char *source)
-{
-    return QCoreApplication::translate("ZrShowcase", source);
-}
 
 ZrLogWidget *atRest()
 {
@@ -33,8 +28,9 @@ ZrLogWidget *withLog(const QStringList &lines)
 
 ZrLogWidget *usual()
 {
-    return withLog({text("09:15:00 Connecting to the data service"), text("09:15:01 Securities are loaded"),
-                    text("09:15:02 Accounts are loaded")});
+    return withLog({ZrShowcase::tr("09:15:00 Connecting to the data service"),
+                    ZrShowcase::tr("09:15:01 Securities are loaded"),
+                    ZrShowcase::tr("09:15:02 Accounts are loaded")});
 }
 
 ZrLogWidget *disabled()
@@ -48,7 +44,7 @@ ZrLogWidget *withManyLines()
 {
     QStringList lines;
     for (int i = 1; i <= ManyLines; ++i)
-        lines.append(text("Line %1").arg(i));
+        lines.append(ZrShowcase::tr("Line %1").arg(i));
     return withLog(lines);
 }
 
@@ -57,7 +53,7 @@ QWidget *live()
 {
     auto *const sample = new QWidget;
     ZrLogWidget *const widget = atRest();
-    auto *const button = new QPushButton(text("Move"));
+    auto *const button = new QPushButton(ZrShowcase::tr("Move"));
     button->setCheckable(true);
     auto *const layout = new QVBoxLayout(sample);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -77,23 +73,25 @@ ZrShowcasePage *zrMakeLogWidgetPage(QWidget *parent)
 {
     auto *const page = new ZrShowcasePage(
         QStringLiteral("log-widget"), QStringLiteral("ZrLogWidget"),
-        text("A moving picture for a time of waiting, with a log over it for who wants to know more."),
+        ZrShowcase::tr(
+            "A moving picture for a time of waiting, with a log over it for who wants to know more."),
         parent);
-    page->beginRow(text("Picture"));
-    page->addSample(text("At rest"), atRest());
-    page->addSample(text("Try it"), live());
-    page->beginRow(text("Log"));
-    page->addSample(text("Read-only log"), usual());
+    page->beginRow(ZrShowcase::tr("Picture"));
+    page->addSample(ZrShowcase::tr("At rest"), atRest());
+    page->addSample(ZrShowcase::tr("Try it"), live());
+    page->beginRow(ZrShowcase::tr("Log"));
+    page->addSample(ZrShowcase::tr("Read-only log"), usual());
     page->addPicture(
-        text("Focus"), [] { return usual(); }, ZrShowcasePage::State::Focus);
+        ZrShowcase::tr("Focus"), [] { return usual(); }, ZrShowcasePage::State::Focus);
     page->addPicture(
-        text("Hover"), [] { return usual(); }, ZrShowcasePage::State::Hover);
-    page->addSample(text("Disabled"), disabled());
-    page->addSample(text("Empty"), withLog({}));
-    page->addSample(text("Chinese"), withLog({QStringLiteral("09:15:00 正在连接数据服务"),
-                                              QStringLiteral("09:15:01 证券信息已加载")}));
-    page->addSample(text("Error"), withLog({text("09:15:03 Error: the data service does not answer")}));
-    page->addSample(text("Many lines"), withManyLines());
-    page->addSample(text("Long text"), withLog({QString(300, QLatin1Char('W'))}));
+        ZrShowcase::tr("Hover"), [] { return usual(); }, ZrShowcasePage::State::Hover);
+    page->addSample(ZrShowcase::tr("Disabled"), disabled());
+    page->addSample(ZrShowcase::tr("Empty"), withLog({}));
+    page->addSample(ZrShowcase::tr("Chinese"), withLog({QStringLiteral("09:15:00 正在连接数据服务"),
+                                                        QStringLiteral("09:15:01 证券信息已加载")}));
+    page->addSample(ZrShowcase::tr("Error"),
+                    withLog({ZrShowcase::tr("09:15:03 Error: the data service does not answer")}));
+    page->addSample(ZrShowcase::tr("Many lines"), withManyLines());
+    page->addSample(ZrShowcase::tr("Long text"), withLog({QString(300, QLatin1Char('W'))}));
     return page;
 }

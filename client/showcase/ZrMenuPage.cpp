@@ -1,17 +1,12 @@
 #include "ZrMenu.h"
+#include "ZrShowcase.h"
 #include "ZrShowcasePage.h"
 #include "ZrShowcasePages.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtWidgets/QActionGroup>
 #include <QtWidgets/QPushButton>
 
 namespace {
-
-QString text(const char *source)
-{
-    return QCoreApplication::translate("ZrShowcase", source);
-}
 
 QAction *addChecked(ZrMenu *menu, const QString &caption, bool checked)
 {
@@ -25,15 +20,15 @@ QAction *addChecked(ZrMenu *menu, const QString &caption, bool checked)
 ZrMenu *gridMenu()
 {
     auto *const menu = new ZrMenu;
-    menu->addAction(text("Copy"))->setShortcut(QKeySequence::Copy);
-    menu->addAction(text("Export"));
+    menu->addAction(ZrShowcase::tr("Copy"))->setShortcut(QKeySequence::Copy);
+    menu->addAction(ZrShowcase::tr("Export"));
     menu->addSeparator();
-    auto *const columns = new ZrMenu(text("Columns"), menu);
+    auto *const columns = new ZrMenu(ZrShowcase::tr("Columns"), menu);
     columns->setData(Qt::UserRole, 1);
-    addChecked(columns, text("Symbol"), true);
-    addChecked(columns, text("Price"), false);
+    addChecked(columns, ZrShowcase::tr("Symbol"), true);
+    addChecked(columns, ZrShowcase::tr("Price"), false);
     menu->addMenu(columns);
-    menu->addAction(text("Refresh"))->setEnabled(false);
+    menu->addAction(ZrShowcase::tr("Refresh"))->setEnabled(false);
     return menu;
 }
 
@@ -47,13 +42,13 @@ ZrMenu *withCurrentEntry()
 ZrMenu *withChecks()
 {
     auto *const menu = new ZrMenu;
-    addChecked(menu, text("Symbol"), true);
-    addChecked(menu, text("Price"), false);
-    addChecked(menu, text("Quantity"), true)->setEnabled(false);
+    addChecked(menu, ZrShowcase::tr("Symbol"), true);
+    addChecked(menu, ZrShowcase::tr("Price"), false);
+    addChecked(menu, ZrShowcase::tr("Quantity"), true)->setEnabled(false);
     menu->addSeparator();
     auto *const one = new QActionGroup(menu);
-    one->addAction(addChecked(menu, text("All orders"), true));
-    one->addAction(addChecked(menu, text("Open orders"), false));
+    one->addAction(addChecked(menu, ZrShowcase::tr("All orders"), true));
+    one->addAction(addChecked(menu, ZrShowcase::tr("Open orders"), false));
     return menu;
 }
 
@@ -74,7 +69,7 @@ ZrMenu *disabled()
 
 QWidget *live()
 {
-    auto *const button = new QPushButton(text("Menu"));
+    auto *const button = new QPushButton(ZrShowcase::tr("Menu"));
     ZrMenu *const menu = gridMenu();
     menu->setParent(button, menu->windowFlags());
     button->setMenu(menu);
@@ -86,22 +81,23 @@ ZrShowcasePage *zrMakeMenuPage(QWidget *parent)
 {
     auto *const page = new ZrShowcasePage(
         QStringLiteral("menu"), QStringLiteral("ZrMenu"),
-        text("A menu that carries data, so that a chosen entry leads back to its grid."), parent);
-    page->beginRow(text("States"));
-    page->addSample(text("Normal"), gridMenu());
-    page->addSample(text("Current entry"), withCurrentEntry());
-    page->addSample(text("Disabled"), disabled());
-    page->addSample(text("Check marks"), withChecks());
-    page->addSample(text("Empty"), withEntries({}));
-    page->beginRow(text("Texts"));
-    page->addSample(text("Chinese"), withEntries({QStringLiteral("列显示"), QStringLiteral("插件联动"),
-                                                  QStringLiteral("导出全部")}));
-    page->addSample(text("English"),
+        ZrShowcase::tr("A menu that carries data, so that a chosen entry leads back to its grid."), parent);
+    page->beginRow(ZrShowcase::tr("States"));
+    page->addSample(ZrShowcase::tr("Normal"), gridMenu());
+    page->addSample(ZrShowcase::tr("Current entry"), withCurrentEntry());
+    page->addSample(ZrShowcase::tr("Disabled"), disabled());
+    page->addSample(ZrShowcase::tr("Check marks"), withChecks());
+    page->beginRow(ZrShowcase::tr("Texts"));
+    page->addSample(
+        ZrShowcase::tr("Chinese"),
+        withEntries({QStringLiteral("列显示"), QStringLiteral("插件联动"), QStringLiteral("导出全部")}));
+    page->addSample(ZrShowcase::tr("English"),
                     withEntries({QStringLiteral("Column visibility"), QStringLiteral("Plugin linking"),
                                  QStringLiteral("Export all")}));
-    page->addSample(text("Long text"),
-                    withEntries({text("Copy"), text("Copy this row with the names of its columns")}));
-    page->beginRow(text("Try it"));
-    page->addSample(text("Opens below its button"), live());
+    page->addSample(
+        ZrShowcase::tr("Long text"),
+        withEntries({ZrShowcase::tr("Copy"), ZrShowcase::tr("Copy this row with the names of its columns")}));
+    page->beginRow(ZrShowcase::tr("Try it"));
+    page->addSample(ZrShowcase::tr("Opens below its button"), live());
     return page;
 }

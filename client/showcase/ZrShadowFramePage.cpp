@@ -1,19 +1,14 @@
 #include "ZrShadowFrame.h"
+#include "ZrShowcase.h"
 #include "ZrShowcasePage.h"
 #include "ZrShowcasePages.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QVBoxLayout>
 
 namespace {
 constexpr QSize FrameSize(160, 96);
 constexpr int InnerPx = 8;
-
-QString text(const char *source)
-{
-    return QCoreApplication::translate("ZrShowcase", source);
-}
 
 ZrShadowFrame *withMargin(int marginPx, const QString &content)
 {
@@ -34,7 +29,7 @@ ZrShadowFrame *withMargin(int marginPx, const QString &content)
 
 ZrShadowFrame *plain()
 {
-    return withMargin(10, text("Send the order?"));
+    return withMargin(10, ZrShowcase::tr("Send the order?"));
 }
 
 ZrShadowFrame *withRadius(int radius)
@@ -63,23 +58,26 @@ ZrShowcasePage *zrMakeShadowFramePage(QWidget *parent)
 {
     auto *const page = new ZrShowcasePage(
         QStringLiteral("shadow-frame"), QStringLiteral("ZrShadowFrame"),
-        text("The body of a frameless window: it paints the ground, the border and a soft edge."), parent);
-    page->beginRow(text("States"));
-    page->addSample(text("Normal"), plain());
+        ZrShowcase::tr("The body of a frameless window: it paints the ground, the border and a soft edge."),
+        parent);
+    page->beginRow(ZrShowcase::tr("States"));
+    page->addSample(ZrShowcase::tr("Normal"), plain());
     page->addPicture(
-        text("Focus"), [] { return plain(); }, ZrShowcasePage::State::Focus);
-    page->addSample(text("Selected"), selected());
-    page->addSample(text("Disabled"), disabled());
-    page->addSample(text("Empty"), withMargin(10, QString()));
-    page->beginRow(text("Contents"));
-    page->addSample(text("Chinese"), withMargin(10, QStringLiteral("确认发送委托？")));
-    page->addSample(text("English"), withMargin(10, QStringLiteral("Confirm the order?")));
-    page->addSample(text("Long text"),
-                    withMargin(10, text("The exchange has refused the order: price outside the limits.")));
-    page->beginRow(text("Margin"));
+        ZrShowcase::tr("Focus"), [] { return plain(); }, ZrShowcasePage::State::Focus);
+    page->addSample(ZrShowcase::tr("Selected"), selected());
+    page->addSample(ZrShowcase::tr("Disabled"), disabled());
+    page->addSample(ZrShowcase::tr("Empty"), withMargin(10, QString()));
+    page->beginRow(ZrShowcase::tr("Contents"));
+    page->addSample(ZrShowcase::tr("Chinese"), withMargin(10, QStringLiteral("确认发送委托？")));
+    page->addSample(ZrShowcase::tr("English"), withMargin(10, QStringLiteral("Confirm the order?")));
+    page->addSample(
+        ZrShowcase::tr("Long text"),
+        withMargin(10, ZrShowcase::tr("The exchange has refused the order: price outside the limits.")));
+    page->beginRow(ZrShowcase::tr("Margin"));
     for (const int marginPx : {0, 4, 10, 16})
-        page->addSample(text("%1 px").arg(marginPx), withMargin(marginPx, text("Send the order?")));
-    page->beginRow(text("Radius"));
+        page->addSample(ZrShowcase::tr("%1 px").arg(marginPx),
+                        withMargin(marginPx, ZrShowcase::tr("Send the order?")));
+    page->beginRow(ZrShowcase::tr("Radius"));
     for (const int radius : {0, 6, 20, 50})
         page->addSample(QString::number(radius), withRadius(radius));
     return page;

@@ -11,7 +11,8 @@ namespace {
 QString shownText(const QString &text, const QStyleOptionButton &option, int widthPx)
 {
     // The bound keeps measuring cheap: no row is wide enough to show more.
-    const QString line = ZrPlainText::caption(text, {qMax(1, widthPx), 1});
+    const int most = qMax(1, widthPx);
+    const QString line = ZrPlainText::caption(text, {most, 1, most});
     return option.fontMetrics.elidedText(line, Qt::ElideRight, widthPx, Qt::TextShowMnemonic);
 }
 } // namespace
