@@ -12,13 +12,6 @@ ZrLineEdit *filled(const QString &content)
     return edit;
 }
 
-ZrLineEdit *hinted(const QString &hint)
-{
-    ZrLineEdit *const edit = filled(QString());
-    edit->setPlaceholderText(hint);
-    return edit;
-}
-
 ZrLineEdit *readOnly()
 {
     ZrLineEdit *const edit = filled(QStringLiteral("600000.SH"));
@@ -43,7 +36,6 @@ void addStates(ZrShowcasePage *page)
     page->addSample(ZrShowcase::tr("Disabled"), disabled());
     page->addSample(ZrShowcase::tr("Read-only"), readOnly());
     page->addSample(ZrShowcase::tr("Empty"), filled(QString()));
-    page->addSample(ZrShowcase::tr("Empty with a hint"), hinted(ZrShowcase::tr("Symbol or name")));
 }
 
 void addTexts(ZrShowcasePage *page)
@@ -54,7 +46,7 @@ void addTexts(ZrShowcasePage *page)
     page->addSample(ZrShowcase::tr("Long"),
                     filled(QStringLiteral("600000.SH, 600004.SH, 600006.SH, 600007.SH, "
                                           "600008.SH, 600009.SH, 600010.SH, 600011.SH")));
-    page->addSample(ZrShowcase::tr("Markup stays text"), filled(QStringLiteral("<b>600000</b> & 600004")));
+    page->addSample(ZrShowcase::tr("Markup stays text"), filled(QStringLiteral("<b>600000</b> & 1")));
 }
 } // namespace
 

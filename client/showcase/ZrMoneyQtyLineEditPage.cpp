@@ -16,13 +16,6 @@ ZrMoneyQtyLineEdit *filled(const QString &amount)
     return edit;
 }
 
-ZrMoneyQtyLineEdit *hinted()
-{
-    ZrMoneyQtyLineEdit *const edit = filled(QString());
-    edit->setPlaceholderText(ZrShowcase::tr("Amount"));
-    return edit;
-}
-
 ZrMoneyQtyLineEdit *readOnly()
 {
     ZrMoneyQtyLineEdit *const edit = filled(QStringLiteral("12345678"));
@@ -47,7 +40,6 @@ void addStates(ZrShowcasePage *page)
     page->addSample(ZrShowcase::tr("Disabled"), disabled());
     page->addSample(ZrShowcase::tr("Read-only"), readOnly());
     page->addSample(ZrShowcase::tr("Empty"), filled(QString()));
-    page->addSample(ZrShowcase::tr("Empty with a hint"), hinted());
 }
 
 // The reading is a tool tip that comes at a key press; here it stands still.
