@@ -489,14 +489,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Empty with a hint</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Symbol or name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>A text field that carries its form&apos;s data and tells when the entry is finished.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -634,10 +626,6 @@
     </message>
     <message>
         <source>Opens below its button</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Amount</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -402,347 +402,335 @@
     </message>
     <message>
         <source>Sell short</source>
-        <translation type="unfinished"></translation>
+        <translation>融券卖出</translation>
     </message>
     <message>
         <source>A row of buttons of which one can be chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>一排按钮，可以选择其中一个。</translation>
     </message>
     <message>
         <source>States</source>
-        <translation type="unfinished"></translation>
+        <translation>状态</translation>
     </message>
     <message>
         <source>None chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>未选择</translation>
     </message>
     <message>
         <source>Chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>已选择</translation>
     </message>
     <message>
         <source>Texts</source>
-        <translation type="unfinished"></translation>
+        <translation>文本</translation>
     </message>
     <message>
         <source>Chinese</source>
-        <translation type="unfinished"></translation>
+        <translation>中文</translation>
     </message>
     <message>
         <source>English</source>
-        <translation type="unfinished"></translation>
+        <translation>英文</translation>
     </message>
     <message>
         <source>Long</source>
-        <translation type="unfinished"></translation>
+        <translation>长文本</translation>
     </message>
     <message>
         <source>A date that may be left empty; a digit fills in today.</source>
-        <translation type="unfinished"></translation>
+        <translation>可以留空的日期；键入数字即填入当天。</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>只读</translation>
     </message>
     <message>
         <source>Forms</source>
-        <translation type="unfinished"></translation>
+        <translation>形式</translation>
     </message>
     <message>
         <source>With a calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>带日历</translation>
     </message>
     <message>
         <source>Order quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>委托数量</translation>
     </message>
     <message>
         <source>Checked</source>
-        <translation type="unfinished"></translation>
+        <translation>勾选</translation>
     </message>
     <message>
         <source>Text colours by flag</source>
-        <translation type="unfinished"></translation>
+        <translation>按标志着色</translation>
     </message>
     <message>
         <source>Up</source>
-        <translation type="unfinished"></translation>
+        <translation>上涨</translation>
     </message>
     <message>
         <source>Down</source>
-        <translation type="unfinished"></translation>
+        <translation>下跌</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>警告</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>错误</translation>
     </message>
     <message>
         <source>Markup stays text</source>
-        <translation type="unfinished"></translation>
+        <translation>标记按原文显示</translation>
     </message>
     <message>
         <source>A label whose look can be switched, and which carries its form&apos;s data.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Empty with a hint</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Symbol or name</source>
-        <translation type="unfinished"></translation>
+        <translation>可以切换外观并携带表单数据的标签。</translation>
     </message>
     <message>
         <source>A text field that carries its form&apos;s data and tells when the entry is finished.</source>
-        <translation type="unfinished"></translation>
+        <translation>携带表单数据、输入完成时发出通知的文本框。</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>加载</translation>
     </message>
     <message>
         <source>Covers a plugin with a moving picture while its data load.</source>
-        <translation type="unfinished"></translation>
+        <translation>数据加载期间用动画覆盖插件。</translation>
     </message>
     <message>
         <source>Before the first picture</source>
-        <translation type="unfinished"></translation>
+        <translation>首帧之前</translation>
     </message>
     <message>
         <source>First picture</source>
-        <translation type="unfinished"></translation>
+        <translation>第一帧</translation>
     </message>
     <message>
         <source>Sixth picture</source>
-        <translation type="unfinished"></translation>
+        <translation>第六帧</translation>
     </message>
     <message>
         <source>Over an empty grid</source>
-        <translation type="unfinished"></translation>
+        <translation>覆盖空表格</translation>
     </message>
     <message>
         <source>Try it</source>
-        <translation type="unfinished"></translation>
+        <translation>试一试</translation>
     </message>
     <message>
         <source>Finished</source>
-        <translation type="unfinished"></translation>
+        <translation>已完成</translation>
     </message>
     <message>
         <source>09:15:00 Connecting to the data service</source>
-        <translation type="unfinished"></translation>
+        <translation>09:15:00 正在连接数据服务</translation>
     </message>
     <message>
         <source>09:15:01 Securities are loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>09:15:01 证券信息已加载</translation>
     </message>
     <message>
         <source>09:15:02 Accounts are loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>09:15:02 账户信息已加载</translation>
     </message>
     <message>
         <source>Line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>第 %1 行</translation>
     </message>
     <message>
         <source>Move</source>
-        <translation type="unfinished"></translation>
+        <translation>播放</translation>
     </message>
     <message>
         <source>A moving picture for a time of waiting, with a log over it for who wants to know more.</source>
-        <translation type="unfinished"></translation>
+        <translation>等待时播放的动画，上面可显示日志供人查看详情。</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>图片</translation>
     </message>
     <message>
         <source>At rest</source>
-        <translation type="unfinished"></translation>
+        <translation>静止</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>日志</translation>
     </message>
     <message>
         <source>Read-only log</source>
-        <translation type="unfinished"></translation>
+        <translation>只读日志</translation>
     </message>
     <message>
         <source>09:15:03 Error: the data service does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>09:15:03 错误：数据服务没有应答</translation>
     </message>
     <message>
         <source>Many lines</source>
-        <translation type="unfinished"></translation>
+        <translation>多行</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>复制</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>导出</translation>
     </message>
     <message>
         <source>Symbol</source>
-        <translation type="unfinished">证券</translation>
+        <translation>代码</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation type="unfinished">委托价</translation>
+        <translation>价格</translation>
     </message>
     <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>刷新</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished">委托数量</translation>
+        <translation>数量</translation>
     </message>
     <message>
         <source>All orders</source>
-        <translation type="unfinished"></translation>
+        <translation>全部委托</translation>
     </message>
     <message>
         <source>Open orders</source>
-        <translation type="unfinished">仅在途</translation>
+        <translation>在途委托</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>菜单</translation>
     </message>
     <message>
         <source>A menu that carries data, so that a chosen entry leads back to its grid.</source>
-        <translation type="unfinished"></translation>
+        <translation>携带数据的菜单，所选菜单项可以找回对应的表格。</translation>
     </message>
     <message>
         <source>Current entry</source>
-        <translation type="unfinished"></translation>
+        <translation>当前项</translation>
     </message>
     <message>
         <source>Check marks</source>
-        <translation type="unfinished"></translation>
+        <translation>勾选标记</translation>
     </message>
     <message>
         <source>Copy this row with the names of its columns</source>
-        <translation type="unfinished"></translation>
+        <translation>复制此行及其列名</translation>
     </message>
     <message>
         <source>Opens below its button</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Amount</source>
-        <translation type="unfinished"></translation>
+        <translation>在按钮下方打开</translation>
     </message>
     <message>
         <source>How amounts are read</source>
-        <translation type="unfinished"></translation>
+        <translation>金额读法</translation>
     </message>
     <message>
         <source>Sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>长度</translation>
     </message>
     <message>
         <source>Most digits before the full stop</source>
-        <translation type="unfinished"></translation>
+        <translation>小数点前最多位数</translation>
     </message>
     <message>
         <source>Most digits of all</source>
-        <translation type="unfinished"></translation>
+        <translation>总位数上限</translation>
     </message>
     <message>
         <source>Takes amounts and quantities, and reads them in Chinese while they are typed.</source>
-        <translation type="unfinished"></translation>
+        <translation>输入金额和数量，键入时以中文单位读出。</translation>
     </message>
     <message>
         <source>Send order</source>
-        <translation type="unfinished"></translation>
+        <translation>发送委托</translation>
     </message>
     <message>
         <source>A button that lights up under the pointer and the focus.</source>
-        <translation type="unfinished"></translation>
+        <translation>指针移入或获得焦点时点亮的按钮。</translation>
     </message>
     <message>
         <source>Pressed</source>
-        <translation type="unfinished"></translation>
+        <translation>按下</translation>
     </message>
     <message>
         <source>An ampersand is no shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp; 不是快捷键</translation>
     </message>
     <message>
         <source>A quoted price, whose colour tells where it went.</source>
-        <translation type="unfinished"></translation>
+        <translation>行情价格，以颜色表示涨跌。</translation>
     </message>
     <message>
         <source>Modes</source>
-        <translation type="unfinished"></translation>
+        <translation>模式</translation>
     </message>
     <message>
         <source>Unchanged</source>
-        <translation type="unfinished"></translation>
+        <translation>平盘</translation>
     </message>
     <message>
         <source>Highlighted</source>
-        <translation type="unfinished"></translation>
+        <translation>突出显示</translation>
     </message>
     <message>
         <source>Limit price</source>
-        <translation type="unfinished"></translation>
+        <translation>限价</translation>
     </message>
     <message>
         <source>Chosen and disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>已选择且禁用</translation>
     </message>
     <message>
         <source>One choice among few, which carries its form&apos;s data.</source>
-        <translation type="unfinished"></translation>
+        <translation>携带表单数据的单选按钮。</translation>
     </message>
     <message>
         <source>Send the order?</source>
-        <translation type="unfinished"></translation>
+        <translation>发送委托？</translation>
     </message>
     <message>
         <source>The body of a frameless window: it paints the ground, the border and a soft edge.</source>
-        <translation type="unfinished"></translation>
+        <translation>无边框窗口的主体：绘制底色、边框和柔和的边缘。</translation>
     </message>
     <message>
         <source>Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>选中</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation type="unfinished"></translation>
+        <translation>内容</translation>
     </message>
     <message>
         <source>The exchange has refused the order: price outside the limits.</source>
-        <translation type="unfinished"></translation>
+        <translation>交易所拒绝了委托：价格超出涨跌幅限制。</translation>
     </message>
     <message>
         <source>Margin</source>
-        <translation type="unfinished"></translation>
+        <translation>边距</translation>
     </message>
     <message>
         <source>%1 px</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 像素</translation>
     </message>
     <message>
         <source>Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>圆角</translation>
     </message>
     <message>
         <source>Cancel all orders</source>
-        <translation type="unfinished"></translation>
+        <translation>全部撤单</translation>
     </message>
     <message>
         <source>A row in which the user presses the keys of a shortcut.</source>
-        <translation type="unfinished"></translation>
+        <translation>在此行按键设置快捷键。</translation>
     </message>
 </context>
 <context>

@@ -29,6 +29,32 @@
     </message>
 </context>
 <context>
+    <name>ZrComfirmDialog</name>
+    <message>
+        <source>确认</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>value</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrHelpMark</name>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ZrLoadingFrame</name>
     <message>
         <source>Loading</source>
@@ -44,6 +70,17 @@
     <message>
         <source>Log</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrMessageBox</name>
+    <message>
+        <source>确认</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
     </message>
 </context>
 <context>
@@ -71,7 +108,7 @@
     <name>ZrShortCutKeyWidget</name>
     <message>
         <source>直接按键盘进行设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Press the keys to set it</translation>
     </message>
     <message>
         <source>Shortcut key</source>
@@ -93,6 +130,17 @@
     <name>ZrTableView</name>
     <message>
         <source>Summary of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrToastDialog</name>
+    <message>
+        <source>Notice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -29,35 +29,72 @@
     </message>
 </context>
 <context>
+    <name>ZrComfirmDialog</name>
+    <message>
+        <source>确认</source>
+        <translation>确认</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>value</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrHelpMark</name>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ZrLoadingFrame</name>
     <message>
         <source>Loading</source>
-        <translation type="unfinished"></translation>
+        <translation>正在加载</translation>
     </message>
 </context>
 <context>
     <name>ZrLogWidget</name>
     <message>
         <source>Waiting for data</source>
-        <translation type="unfinished"></translation>
+        <translation>正在等待数据</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>日志</translation>
+    </message>
+</context>
+<context>
+    <name>ZrMessageBox</name>
+    <message>
+        <source>确认</source>
+        <translation>确认</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
     <name>ZrMultiComboBox</name>
     <message>
         <source>Selected items</source>
-        <translation type="unfinished"></translation>
+        <translation>已选项</translation>
     </message>
 </context>
 <context>
     <name>ZrMultiComboList</name>
     <message>
         <source>Choices</source>
-        <translation type="unfinished"></translation>
+        <translation>选项</translation>
     </message>
 </context>
 <context>
@@ -75,7 +112,7 @@
     </message>
     <message>
         <source>Shortcut key</source>
-        <translation type="unfinished"></translation>
+        <translation>快捷键</translation>
     </message>
 </context>
 <context>
@@ -94,6 +131,17 @@
     <message>
         <source>Summary of %1</source>
         <translation>%1合计</translation>
+    </message>
+</context>
+<context>
+    <name>ZrToastDialog</name>
+    <message>
+        <source>Notice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
     </message>
 </context>
 </TS>
