@@ -5,6 +5,7 @@
 #include <QtCore/QString>
 
 class QLabel;
+class QSize;
 class QTextEdit;
 class QWidget;
 
@@ -64,6 +65,9 @@ public:
     static QString caption(const QString &text, Bound bound = captionBound);
     /// What of the text is within the bound, and mark() wherever something was left out.
     static QString beginning(const QString &text, Bound bound);
+    /// The text, or its beginning and mark() when more than that can't be seen in a place of this size: what
+    /// is painted needs no measuring of the rest. Costs nothing for a text that may fit.
+    static QString visiblePart(const QString &text, const QSize &placePx);
     /// The text with places to break inside words too long for a line.
     static QString breakable(const QString &text);
     /// What stands where the rest was left out.

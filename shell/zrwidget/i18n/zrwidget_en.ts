@@ -108,7 +108,7 @@
     <name>ZrShortCutKeyWidget</name>
     <message>
         <source>直接按键盘进行设置</source>
-        <translation>Press the keys to set it</translation>
+        <translation>Press the keys</translation>
     </message>
     <message>
         <source>Shortcut key</source>
