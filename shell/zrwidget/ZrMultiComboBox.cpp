@@ -27,11 +27,15 @@ ZrMultiComboBox::ZrMultiComboBox(QWidget *parent)
     setFrame(false);
     // Nothing is typed, so nothing is completed.
     m_edit->setCompleter(nullptr);
+    m_list->takeOwnLook();
     m_edit->setAccessibleName(tr("Selected items"));
     new ZrPlainTip(m_edit);
     new ZrMultiComboKeys(this, m_list);
     // The base writes its current item into the editor; what stands there is ours to say.
     connect(m_edit, &QLineEdit::textChanged, this, &ZrMultiComboBox::packShowText);
+    // On a parent with a style sheet the parts have asked that sheet for their look already, and the toolkit
+    // forgets those answers for another sheet only once the box is polished.
+    ensurePolished();
     ZrCore::instance()->addStyle2View(this, Constants::SKIN_SYSTEM +
                                                 QStringLiteral("zrwidget/zrmulticombobox.css"));
 }

@@ -34,6 +34,14 @@ void ZrMultiComboEdit::setShownText(const QString &text)
     setCursorPosition(0);
 }
 
+void ZrMultiComboEdit::focusInEvent(QFocusEvent *event)
+{
+    QLineEdit::focusInEvent(event);
+    // The base selects all for who comes by the keyboard, to be typed over; nothing can be typed here.
+    deselect();
+    setCursorPosition(0);
+}
+
 void ZrMultiComboEdit::paintEvent(QPaintEvent *event)
 {
     QStyleOptionFrame panel;

@@ -27,6 +27,7 @@ public:
     void setShownText(const QString &text);
 
 protected:
+    void focusInEvent(QFocusEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
