@@ -732,6 +732,70 @@
         <source>A row in which the user presses the keys of a shortcut.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Orange</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Indigo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Security and trading account of the same investor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chooses the group whose windows follow each other, in the colour of the group.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All portfolios</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A text for nothing ticked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Many rows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some ticked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some ticked, two disabled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A field for many choices: its list has a check box in each row, and the closed field shows what is ticked.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ZrStatusLine</name>

@@ -732,6 +732,70 @@
         <source>A row in which the user presses the keys of a shortcut.</source>
         <translation>在此行按键设置快捷键。</translation>
     </message>
+    <message>
+        <source>Orange</source>
+        <translation>橙</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>黄</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>蓝</translation>
+    </message>
+    <message>
+        <source>Indigo</source>
+        <translation>靛</translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <translation>紫</translation>
+    </message>
+    <message>
+        <source>Security and trading account of the same investor</source>
+        <translation>同一投资者的证券与交易账户</translation>
+    </message>
+    <message>
+        <source>Chooses the group whose windows follow each other, in the colour of the group.</source>
+        <translation>选择联动分组，并以该组颜色显示；同组窗口互相跟随。</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>分组</translation>
+    </message>
+    <message>
+        <source>No group</source>
+        <translation>无分组</translation>
+    </message>
+    <message>
+        <source>All portfolios</source>
+        <translation>全部组合</translation>
+    </message>
+    <message>
+        <source>A text for nothing ticked</source>
+        <translation>未勾选时的文本</translation>
+    </message>
+    <message>
+        <source>Many rows</source>
+        <translation>多行列表</translation>
+    </message>
+    <message>
+        <source>Open list</source>
+        <translation>展开的列表</translation>
+    </message>
+    <message>
+        <source>Some ticked</source>
+        <translation>勾选若干</translation>
+    </message>
+    <message>
+        <source>Some ticked, two disabled</source>
+        <translation>勾选若干，两项禁用</translation>
+    </message>
+    <message>
+        <source>A field for many choices: its list has a check box in each row, and the closed field shows what is ticked.</source>
+        <translation>多选下拉框：列表每行一个复选框，收起时显示已勾选项。</translation>
+    </message>
 </context>
 <context>
     <name>ZrStatusLine</name>

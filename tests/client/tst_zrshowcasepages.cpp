@@ -50,7 +50,8 @@ bool isControl(const QAccessibleInterface &one)
         QAccessible::Tree,       QAccessible::List,     QAccessible::PageTabList,  QAccessible::PageTab,
         QAccessible::Slider,     QAccessible::MenuItem, QAccessible::PopupMenu,    QAccessible::Graphic,
         QAccessible::ButtonMenu, QAccessible::Dialog};
-    return roles.contains(one.role()) && !one.state().invisible;
+    const auto *const widget = qobject_cast<const QWidget *>(one.object());
+    return roles.contains(one.role()) && !one.state().invisible && (!widget || widget->isVisible());
 }
 
 void collectNameless(QAccessibleInterface *one, const QString &path, QStringList *nameless)
