@@ -77,7 +77,9 @@ QWidget *listOf(ZrMultiComboBox *combo, int current)
     QAbstractItemView *const list = combo->view();
     list->setCurrentIndex(list->model()->index(current, 0));
     list->ensurePolished();
-    list->setFixedSize(ListWidthPx, qMin(RowsInSight, combo->count()) * list->sizeHintForRow(0) + EdgesPx);
+    list->setFixedSize(ListWidthPx, qMin(RowsInSight, combo->count()) *
+                                            list->sizeHintForIndex(list->model()->index(0, 0)).height() +
+                                        EdgesPx);
     auto *const picture = new QLabel;
     picture->setPixmap(list->grab());
     return picture;

@@ -1,6 +1,7 @@
 #include "ZrLinkageCombox.h"
 
 #include <QtCore/QDebug>
+#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QLineEdit>
 
 #include <algorithm>
@@ -31,6 +32,8 @@ bool isColour(const QString &rgba)
 ZrLinkageCombox::ZrLinkageCombox(QWidget *parent)
     : QComboBox(parent)
 {
+    setAccessibleName(tr("Linkage group"));
+    view()->setAccessibleName(tr("Linkage groups"));
 }
 
 void ZrLinkageCombox::setComboBackground(const QString &rgba)

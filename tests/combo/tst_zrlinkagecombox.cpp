@@ -1,6 +1,8 @@
 #include "ComboScene.h"
 #include "ZrLinkageCombox.h"
 
+#include <QtWidgets/QAbstractItemView>
+
 class tst_ZrLinkageCombox : public QObject
 {
     Q_OBJECT
@@ -65,6 +67,13 @@ private slots:
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^ZrLinkageCombox::setComboBackground "));
         combo.setComboBackground(rgba);
         QVERIFY(combo.lineEdit()->styleSheet().isEmpty());
+    }
+
+    void boxAndListHaveNames()
+    {
+        ZrLinkageCombox combo;
+        QVERIFY(!combo.accessibleName().isEmpty());
+        QVERIFY(!combo.view()->accessibleName().isEmpty());
     }
 
     void theColourIsSeen()

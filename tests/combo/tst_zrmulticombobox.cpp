@@ -55,6 +55,8 @@ private slots:
 
     // --- popup ---
     void aClickOnTheEditorOpens();
+    void aClickOnTheEditorWhileOpenCloses();
+    void aClickBesideThePopupCloses();
     void aClickOnADisabledBoxDoesNotOpen();
     void anEmptyBoxDoesNotOpen();
     void aTickLeavesThePopupOpen();
@@ -474,6 +476,28 @@ void tst_ZrMultiComboBox::aClickOnTheEditorOpens()
     QTest::mouseRelease(scene.edit(), Qt::LeftButton);
     QVERIFY(scene.list()->isVisible());
     scene.combo()->hidePopup();
+    QVERIFY(!scene.list()->isVisible());
+}
+
+// The popup closes on the press, before the editor gets to see the release that would open it.
+void tst_ZrMultiComboBox::aClickOnTheEditorWhileOpenCloses()
+{
+    ComboScene scene(3);
+    const QPoint onEditor = scene.edit()->mapTo(scene.window(), scene.edit()->rect().center());
+    const QPoint onArrow = scene.combo()->geometry().topRight() + QPoint(-6, 14);
+    for (const QPoint &pos : {onEditor, onArrow}) {
+        QTest::mouseClick(scene.window()->windowHandle(), Qt::LeftButton, Qt::NoModifier, pos);
+        QVERIFY(scene.list()->isVisible());
+        QTest::mouseClick(scene.window()->windowHandle(), Qt::LeftButton, Qt::NoModifier, pos);
+        QVERIFY(!scene.list()->isVisible());
+    }
+}
+
+void tst_ZrMultiComboBox::aClickBesideThePopupCloses()
+{
+    ComboScene scene(3);
+    QVERIFY(scene.open());
+    QTest::mouseClick(scene.window()->windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(390, 390));
     QVERIFY(!scene.list()->isVisible());
 }
 
