@@ -460,12 +460,13 @@ void tst_ZrDateEdit::settingNullableRepaints()
 {
     m_edit->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_edit.get()));
+    PaintCounter paints(m_edit.get());
     m_edit->repaint();
     QCoreApplication::processEvents();
-    QSignalSpy none(m_edit.get(), &QDateTimeEdit::dateChanged);
+    const int before = paints.count;
     m_edit->setNullable(true);
     QVERIFY(m_edit->isNullable());
-    QCOMPARE(none.count(), 0);
+    QTRY_VERIFY(paints.count > before);
     QCOMPARE(m_edit->date(), SomeDay);
 }
 
