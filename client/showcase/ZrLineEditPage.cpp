@@ -41,8 +41,8 @@ void addStates(ZrShowcasePage *page)
 void addTexts(ZrShowcasePage *page)
 {
     page->beginRow(ZrShowcase::tr("Texts"));
-    page->addSample(ZrShowcase::tr("Chinese"), filled(QStringLiteral("浦发银行")));
-    page->addSample(ZrShowcase::tr("English"), filled(QStringLiteral("Pudong Bank")));
+    page->addSample(ZrShowcase::tr("Chinese"), filled(QStringLiteral("昀朔农业")));
+    page->addSample(ZrShowcase::tr("English"), filled(QStringLiteral("Yunshuo Farming")));
     page->addSample(ZrShowcase::tr("Long"),
                     filled(QStringLiteral("600000.SH, 600004.SH, 600006.SH, 600007.SH, "
                                           "600008.SH, 600009.SH, 600010.SH, 600011.SH")));

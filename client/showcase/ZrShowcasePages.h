@@ -46,3 +46,5 @@ ZrShowcasePage *zrMakeDateEditPage(QWidget *parent);
 ZrShowcasePage *zrMakeShortCutKeyWidgetPage(QWidget *parent);
 
 // --- combos ---
+ZrShowcasePage *zrMakeMultiComboPage(QWidget *parent);
+ZrShowcasePage *zrMakeLinkageComboPage(QWidget *parent);

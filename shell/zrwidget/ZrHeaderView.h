@@ -74,6 +74,7 @@ public slots:
     void slotFilterStatusChanged();
 
 protected:
+    QSize sectionSizeFromContents(int section) const override;
     void paintSection(QPainter *painter, const QRect &rect, int section) const override;
     void paintHeaderSection(QPainter *painter, const QRect &rect, int section, bool dragging) const;
     bool eventFilter(QObject *watched, QEvent *event) override;
