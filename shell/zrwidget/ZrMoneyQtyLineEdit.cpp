@@ -16,11 +16,12 @@ constexpr int TipOverlapPx = 10;
 constexpr int LongestPlainTip = 32;
 
 // What is typed goes straight through; what a caller sets may be anything, and a tool tip would read markup
-// in it and grow with its length.
+// in it and grow with its length: a long one takes longer than all the rest of a key press.
 QString tipOf(const QString &reading)
 {
     const bool isPlain = reading.size() <= LongestPlainTip && !Qt::mightBeRichText(reading);
-    return isPlain ? reading : ZrPlainText::toolTip(reading);
+    return isPlain ? reading
+                   : ZrPlainText::toolTip(ZrPlainText::beginning(reading, ZrPlainText::captionBound));
 }
 
 } // namespace

@@ -271,7 +271,7 @@ void tst_ZrMoneyQtyLineEdit::outsideTextIsNoMarkup()
 void tst_ZrMoneyQtyLineEdit::aHugeTextHasABoundedTip()
 {
     m_edit->setText(QString(100000, '7'));
-    QVERIFY(m_edit->toolTip().size() < 10000);
+    QVERIFY(m_edit->toolTip().size() < 1000);
     QVERIFY(tip());
     QVERIFY(tip()->width() <= m_edit->screen()->availableGeometry().width());
     QCOMPARE(m_edit->width(), 200);
