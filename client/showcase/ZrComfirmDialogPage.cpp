@@ -1,10 +1,10 @@
 #include "ZrComfirmDialog.h"
 #include "ZrDialogSample.h"
+#include "ZrPushButton.h"
 #include "ZrShowcase.h"
 #include "ZrShowcasePage.h"
 #include "ZrShowcasePages.h"
 
-#include <QtWidgets/QPushButton>
 #include <QtWidgets/QTableView>
 
 namespace {
@@ -48,7 +48,7 @@ QDialog *withoutRows()
 QDialog *withHead()
 {
     auto *const dialog = new ZrComfirmDialog(ZrShowcase::tr("Send order"), Both, nullptr, AnyMode);
-    dialog->adjustSize();
+    dialog->resize(dialog->width(), dialog->minimumSizeHint().height());
     return dialog;
 }
 
@@ -86,8 +86,8 @@ void openDialog(QWidget *over)
 
 QWidget *live()
 {
-    auto *const button = new QPushButton(ZrShowcase::tr("Send order"));
-    QObject::connect(button, &QPushButton::clicked, button, [button] { openDialog(button); });
+    auto *const button = new ZrPushButton(ZrShowcase::tr("Send order"));
+    QObject::connect(button, &ZrPushButton::clicked, button, [button] { openDialog(button); });
     return ZrDialogSample::row({button});
 }
 

@@ -1,8 +1,34 @@
 #include "ZrDialogSample.h"
 
+#include <QtCore/QEvent>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
+
+namespace {
+/// Makes a widget look as under the mouse, where the mouse never is for long.
+class MouseOver : public QObject
+{
+public:
+    explicit MouseOver(QWidget *widget)
+        : QObject(widget)
+        , m_widget(widget)
+    {
+        widget->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            m_widget->setAttribute(Qt::WA_UnderMouse);
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QWidget *const m_widget; // our parent
+};
+} // namespace
 
 QDialog *ZrDialogSample::embed(QDialog *dialog)
 {
@@ -14,7 +40,7 @@ QDialog *ZrDialogSample::embed(QDialog *dialog)
 
 QDialog *ZrDialogSample::hovered(QDialog *dialog, const QString &button)
 {
-    dialog->findChild<QPushButton *>(button)->setAttribute(Qt::WA_UnderMouse);
+    new MouseOver(dialog->findChild<QPushButton *>(button));
     return embed(dialog);
 }
 

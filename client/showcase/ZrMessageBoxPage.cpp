@@ -1,10 +1,9 @@
 #include "ZrDialogSample.h"
 #include "ZrMessageBox.h"
+#include "ZrPushButton.h"
 #include "ZrShowcase.h"
 #include "ZrShowcasePage.h"
 #include "ZrShowcasePages.h"
-
-#include <QtWidgets/QPushButton>
 
 namespace {
 constexpr int Confirm = 1;
@@ -63,8 +62,8 @@ void openBox(QWidget *over)
 
 QWidget *live()
 {
-    auto *const button = new QPushButton(ZrShowcase::tr("Ask"));
-    QObject::connect(button, &QPushButton::clicked, button, [button] { openBox(button); });
+    auto *const button = new ZrPushButton(ZrShowcase::tr("Ask"));
+    QObject::connect(button, &ZrPushButton::clicked, button, [button] { openBox(button); });
     return ZrDialogSample::row({button});
 }
 

@@ -1,10 +1,9 @@
 #include "ZrDialogSample.h"
+#include "ZrPushButton.h"
 #include "ZrShowcase.h"
 #include "ZrShowcasePage.h"
 #include "ZrShowcasePages.h"
 #include "ZrToastDialog.h"
-
-#include <QtWidgets/QPushButton>
 
 #include <limits>
 
@@ -31,8 +30,8 @@ QString longReason()
 
 QPushButton *opener(const QString &caption, const QString &message, int level)
 {
-    auto *const button = new QPushButton(caption);
-    QObject::connect(button, &QPushButton::clicked, button, [button, message, level] {
+    auto *const button = new ZrPushButton(caption);
+    QObject::connect(button, &ZrPushButton::clicked, button, [button, message, level] {
         auto *const toast = new ZrToastDialog(button->window());
         toast->setAttribute(Qt::WA_DeleteOnClose);
         toast->ShowToastMessage(message, level);
