@@ -77,3 +77,4 @@ ZrBenchCases gridMemoryBenches();
 ZrBenchCases mapBenches();
 ZrBenchCases busBenches();
 ZrBenchCases editorBenches();
+ZrBenchCases comboBenches();

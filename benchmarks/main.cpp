@@ -13,7 +13,7 @@ constexpr int LeastRepetitions = 5;
 ZrBenchCases allBenches()
 {
     return gridUpdateBenches() + gridAppendBenches() + gridSortFilterBenches() + gridPaintBenches() +
-           gridMemoryBenches() + mapBenches() + busBenches() + editorBenches();
+           gridMemoryBenches() + mapBenches() + busBenches() + editorBenches() + comboBenches();
 }
 
 // A name that is asked for whole means that row only, anything else what holds it.

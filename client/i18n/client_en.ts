@@ -400,6 +400,338 @@
         <source>Orders</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Sell short</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A row of buttons of which one can be chosen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>States</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chinese</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Long</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A date that may be left empty; a digit fills in today.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With a calendar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order quantity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text colours by flag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Markup stays text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A label whose look can be switched, and which carries its form&apos;s data.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A text field that carries its form&apos;s data and tells when the entry is finished.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Covers a plugin with a moving picture while its data load.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Before the first picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sixth picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Over an empty grid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Try it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>09:15:00 Connecting to the data service</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>09:15:01 Securities are loaded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>09:15:02 Accounts are loaded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A moving picture for a time of waiting, with a log over it for who wants to know more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At rest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read-only log</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>09:15:03 Error: the data service does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Many lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Price</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All orders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open orders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A menu that carries data, so that a chosen entry leads back to its grid.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current entry</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check marks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy this row with the names of its columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens below its button</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How amounts are read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sizes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Most digits before the full stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Most digits of all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes amounts and quantities, and reads them in Chinese while they are typed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Send order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A button that lights up under the pointer and the focus.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pressed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An ampersand is no shortcut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A quoted price, whose colour tells where it went.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Modes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unchanged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Highlighted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Limit price</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chosen and disabled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One choice among few, which carries its form&apos;s data.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Send the order?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The body of a frameless window: it paints the ground, the border and a soft edge.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The exchange has refused the order: price outside the limits.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel all orders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A row in which the user presses the keys of a shortcut.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ZrStatusLine</name>

@@ -400,6 +400,338 @@
         <source>Orders</source>
         <translation>委托</translation>
     </message>
+    <message>
+        <source>Sell short</source>
+        <translation>融券卖出</translation>
+    </message>
+    <message>
+        <source>A row of buttons of which one can be chosen.</source>
+        <translation>一排按钮，可以选择其中一个。</translation>
+    </message>
+    <message>
+        <source>States</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>None chosen</source>
+        <translation>未选择</translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>已选择</translation>
+    </message>
+    <message>
+        <source>Texts</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Chinese</source>
+        <translation>中文</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>英文</translation>
+    </message>
+    <message>
+        <source>Long</source>
+        <translation>长文本</translation>
+    </message>
+    <message>
+        <source>A date that may be left empty; a digit fills in today.</source>
+        <translation>可以留空的日期；键入数字即填入当天。</translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation>只读</translation>
+    </message>
+    <message>
+        <source>Forms</source>
+        <translation>形式</translation>
+    </message>
+    <message>
+        <source>With a calendar</source>
+        <translation>带日历</translation>
+    </message>
+    <message>
+        <source>Order quantity</source>
+        <translation>委托数量</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>勾选</translation>
+    </message>
+    <message>
+        <source>Text colours by flag</source>
+        <translation>按标志着色</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>上涨</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>下跌</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Markup stays text</source>
+        <translation>标记按原文显示</translation>
+    </message>
+    <message>
+        <source>A label whose look can be switched, and which carries its form&apos;s data.</source>
+        <translation>可以切换外观并携带表单数据的标签。</translation>
+    </message>
+    <message>
+        <source>A text field that carries its form&apos;s data and tells when the entry is finished.</source>
+        <translation>携带表单数据、输入完成时发出通知的文本框。</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>加载</translation>
+    </message>
+    <message>
+        <source>Covers a plugin with a moving picture while its data load.</source>
+        <translation>数据加载期间用动画覆盖插件。</translation>
+    </message>
+    <message>
+        <source>Before the first picture</source>
+        <translation>首帧之前</translation>
+    </message>
+    <message>
+        <source>First picture</source>
+        <translation>第一帧</translation>
+    </message>
+    <message>
+        <source>Sixth picture</source>
+        <translation>第六帧</translation>
+    </message>
+    <message>
+        <source>Over an empty grid</source>
+        <translation>覆盖空表格</translation>
+    </message>
+    <message>
+        <source>Try it</source>
+        <translation>试一试</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>已完成</translation>
+    </message>
+    <message>
+        <source>09:15:00 Connecting to the data service</source>
+        <translation>09:15:00 正在连接数据服务</translation>
+    </message>
+    <message>
+        <source>09:15:01 Securities are loaded</source>
+        <translation>09:15:01 证券信息已加载</translation>
+    </message>
+    <message>
+        <source>09:15:02 Accounts are loaded</source>
+        <translation>09:15:02 账户信息已加载</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>第 %1 行</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>A moving picture for a time of waiting, with a log over it for who wants to know more.</source>
+        <translation>等待时播放的动画，上面可显示日志供人查看详情。</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>At rest</source>
+        <translation>静止</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>日志</translation>
+    </message>
+    <message>
+        <source>Read-only log</source>
+        <translation>只读日志</translation>
+    </message>
+    <message>
+        <source>09:15:03 Error: the data service does not answer</source>
+        <translation>09:15:03 错误：数据服务没有应答</translation>
+    </message>
+    <message>
+        <source>Many lines</source>
+        <translation>多行</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>代码</translation>
+    </message>
+    <message>
+        <source>Price</source>
+        <translation>价格</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>刷新</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>数量</translation>
+    </message>
+    <message>
+        <source>All orders</source>
+        <translation>全部委托</translation>
+    </message>
+    <message>
+        <source>Open orders</source>
+        <translation>在途委托</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>菜单</translation>
+    </message>
+    <message>
+        <source>A menu that carries data, so that a chosen entry leads back to its grid.</source>
+        <translation>携带数据的菜单，所选菜单项可以找回对应的表格。</translation>
+    </message>
+    <message>
+        <source>Current entry</source>
+        <translation>当前项</translation>
+    </message>
+    <message>
+        <source>Check marks</source>
+        <translation>勾选标记</translation>
+    </message>
+    <message>
+        <source>Copy this row with the names of its columns</source>
+        <translation>复制此行及其列名</translation>
+    </message>
+    <message>
+        <source>Opens below its button</source>
+        <translation>在按钮下方打开</translation>
+    </message>
+    <message>
+        <source>How amounts are read</source>
+        <translation>金额读法</translation>
+    </message>
+    <message>
+        <source>Sizes</source>
+        <translation>长度</translation>
+    </message>
+    <message>
+        <source>Most digits before the full stop</source>
+        <translation>小数点前最多位数</translation>
+    </message>
+    <message>
+        <source>Most digits of all</source>
+        <translation>总位数上限</translation>
+    </message>
+    <message>
+        <source>Takes amounts and quantities, and reads them in Chinese while they are typed.</source>
+        <translation>输入金额和数量，键入时以中文单位读出。</translation>
+    </message>
+    <message>
+        <source>Send order</source>
+        <translation>发送委托</translation>
+    </message>
+    <message>
+        <source>A button that lights up under the pointer and the focus.</source>
+        <translation>指针移入或获得焦点时点亮的按钮。</translation>
+    </message>
+    <message>
+        <source>Pressed</source>
+        <translation>按下</translation>
+    </message>
+    <message>
+        <source>An ampersand is no shortcut</source>
+        <translation>&amp; 不是快捷键</translation>
+    </message>
+    <message>
+        <source>A quoted price, whose colour tells where it went.</source>
+        <translation>行情价格，以颜色表示涨跌。</translation>
+    </message>
+    <message>
+        <source>Modes</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>Unchanged</source>
+        <translation>平盘</translation>
+    </message>
+    <message>
+        <source>Highlighted</source>
+        <translation>突出显示</translation>
+    </message>
+    <message>
+        <source>Limit price</source>
+        <translation>限价</translation>
+    </message>
+    <message>
+        <source>Chosen and disabled</source>
+        <translation>已选择且禁用</translation>
+    </message>
+    <message>
+        <source>One choice among few, which carries its form&apos;s data.</source>
+        <translation>携带表单数据的单选按钮。</translation>
+    </message>
+    <message>
+        <source>Send the order?</source>
+        <translation>发送委托？</translation>
+    </message>
+    <message>
+        <source>The body of a frameless window: it paints the ground, the border and a soft edge.</source>
+        <translation>无边框窗口的主体：绘制底色、边框和柔和的边缘。</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>选中</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>The exchange has refused the order: price outside the limits.</source>
+        <translation>交易所拒绝了委托：价格超出涨跌幅限制。</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>边距</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <translation>%1 像素</translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation>圆角</translation>
+    </message>
+    <message>
+        <source>Cancel all orders</source>
+        <translation>全部撤单</translation>
+    </message>
+    <message>
+        <source>A row in which the user presses the keys of a shortcut.</source>
+        <translation>在此行按键设置快捷键。</translation>
+    </message>
 </context>
 <context>
     <name>ZrStatusLine</name>

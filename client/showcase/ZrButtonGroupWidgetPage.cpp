@@ -1,16 +1,10 @@
 #include "ZrButtonGroupWidget.h"
 #include "ZrRadioButton.h"
+#include "ZrShowcase.h"
 #include "ZrShowcasePage.h"
 #include "ZrShowcasePages.h"
 
-#include <QtCore/QCoreApplication>
-
 namespace {
-QString text(const char *source)
-{
-    return QCoreApplication::translate("ZrShowcase", source);
-}
-
 // An ampersand in a name is none of a shortcut.
 QString plain(QString name)
 {
@@ -30,7 +24,7 @@ ZrButtonGroupWidget *row(const QStringList &names, int chosen)
 
 ZrButtonGroupWidget *sides(int chosen)
 {
-    return row({text("Buy"), text("Sell"), text("Sell short")}, chosen);
+    return row({ZrShowcase::tr("Buy"), ZrShowcase::tr("Sell"), ZrShowcase::tr("Sell short")}, chosen);
 }
 
 ZrButtonGroupWidget *disabled()
@@ -45,18 +39,18 @@ ZrShowcasePage *zrMakeButtonGroupWidgetPage(QWidget *parent)
 {
     auto *const page =
         new ZrShowcasePage(QStringLiteral("button-group"), QStringLiteral("ZrButtonGroupWidget"),
-                           text("A row of buttons of which one can be chosen."), parent);
-    page->beginRow(text("States"));
-    page->addSample(text("None chosen"), sides(-1));
-    page->addSample(text("Chosen"), sides(1));
+                           ZrShowcase::tr("A row of buttons of which one can be chosen."), parent);
+    page->beginRow(ZrShowcase::tr("States"));
+    page->addSample(ZrShowcase::tr("None chosen"), sides(-1));
+    page->addSample(ZrShowcase::tr("Chosen"), sides(1));
     page->addPicture(
-        text("Focus"), []() -> QWidget * { return sides(0); }, ZrShowcasePage::State::Focus);
-    page->addSample(text("Disabled"), disabled());
-    page->addSample(text("Empty"), row({}, -1));
-    page->beginRow(text("Texts"));
-    page->addSample(text("Chinese"), row({QStringLiteral("买入"), QStringLiteral("卖出")}, 0));
-    page->addSample(text("English"), row({QStringLiteral("Buy"), QStringLiteral("Sell")}, 0));
-    page->addSample(text("Long"),
+        ZrShowcase::tr("Focus"), []() -> QWidget * { return sides(0); }, ZrShowcasePage::State::Focus);
+    page->addSample(ZrShowcase::tr("Disabled"), disabled());
+    page->addSample(ZrShowcase::tr("Empty"), row({}, -1));
+    page->beginRow(ZrShowcase::tr("Texts"));
+    page->addSample(ZrShowcase::tr("Chinese"), row({QStringLiteral("买入"), QStringLiteral("卖出")}, 0));
+    page->addSample(ZrShowcase::tr("English"), row({QStringLiteral("Buy"), QStringLiteral("Sell")}, 0));
+    page->addSample(ZrShowcase::tr("Long"),
                     row({QStringLiteral("Immediately or cancel"), QStringLiteral("At the close")}, 0));
     return page;
 }

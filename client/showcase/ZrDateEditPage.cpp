@@ -1,15 +1,9 @@
 #include "ZrDateEdit.h"
+#include "ZrShowcase.h"
 #include "ZrShowcasePage.h"
 #include "ZrShowcasePages.h"
 
-#include <QtCore/QCoreApplication>
-
 namespace {
-QString text(const char *source)
-{
-    return QCoreApplication::translate("ZrShowcase", source);
-}
-
 ZrDateEdit *dated(const QString &format = QStringLiteral("yyyy-MM-dd"))
 {
     auto *const edit = new ZrDateEdit;
@@ -53,18 +47,18 @@ ZrShowcasePage *zrMakeDateEditPage(QWidget *parent)
     const auto make = []() -> QWidget * { return dated(); };
     auto *const page =
         new ZrShowcasePage(QStringLiteral("date-edit"), QStringLiteral("ZrDateEdit"),
-                           text("A date that may be left empty; a digit fills in today."), parent);
-    page->beginRow(text("States"));
-    page->addSample(text("Normal"), make());
-    page->addPicture(text("Hover"), make, ZrShowcasePage::State::Hover);
-    page->addPicture(text("Focus"), make, ZrShowcasePage::State::Focus);
-    page->addSample(text("Disabled"), disabled());
-    page->addSample(text("Read-only"), readOnly());
-    page->addSample(text("Empty"), empty());
-    page->beginRow(text("Forms"));
-    page->addSample(text("With a calendar"), withCalendar());
-    page->addSample(text("Chinese"), dated(QStringLiteral("yyyy年M月d日")));
-    page->addSample(text("English"), dated(QStringLiteral("d/M/yyyy")));
-    page->addSample(text("Long"), dated(QStringLiteral("yyyy-MM-dd hh:mm:ss")));
+                           ZrShowcase::tr("A date that may be left empty; a digit fills in today."), parent);
+    page->beginRow(ZrShowcase::tr("States"));
+    page->addSample(ZrShowcase::tr("Normal"), make());
+    page->addPicture(ZrShowcase::tr("Hover"), make, ZrShowcasePage::State::Hover);
+    page->addPicture(ZrShowcase::tr("Focus"), make, ZrShowcasePage::State::Focus);
+    page->addSample(ZrShowcase::tr("Disabled"), disabled());
+    page->addSample(ZrShowcase::tr("Read-only"), readOnly());
+    page->addSample(ZrShowcase::tr("Empty"), empty());
+    page->beginRow(ZrShowcase::tr("Forms"));
+    page->addSample(ZrShowcase::tr("With a calendar"), withCalendar());
+    page->addSample(ZrShowcase::tr("Chinese"), dated(QStringLiteral("yyyy年M月d日")));
+    page->addSample(ZrShowcase::tr("English"), dated(QStringLiteral("d/M/yyyy")));
+    page->addSample(ZrShowcase::tr("Long"), dated(QStringLiteral("yyyy-MM-dd hh:mm:ss")));
     return page;
 }

@@ -1,32 +1,26 @@
 #include "ZrLabel.h"
+#include "ZrShowcase.h"
 #include "ZrShowcasePage.h"
 #include "ZrShowcasePages.h"
 
-#include <QtCore/QCoreApplication>
-
 namespace {
-QString text(const char *source)
-{
-    return QCoreApplication::translate("ZrShowcase", source);
-}
-
 ZrLabel *checked()
 {
-    auto *const label = new ZrLabel(text("Order quantity"));
+    auto *const label = new ZrLabel(ZrShowcase::tr("Order quantity"));
     label->setChecked(true);
     return label;
 }
 
 ZrLabel *flagged(const QString &flag)
 {
-    auto *const label = new ZrLabel(text("Order quantity"));
+    auto *const label = new ZrLabel(ZrShowcase::tr("Order quantity"));
     label->setTextColorFlag(flag);
     return label;
 }
 
 ZrLabel *disabled()
 {
-    auto *const label = new ZrLabel(text("Order quantity"));
+    auto *const label = new ZrLabel(ZrShowcase::tr("Order quantity"));
     label->setEnabled(false);
     return label;
 }
@@ -43,25 +37,25 @@ ZrLabel *wrapped(const QString &content)
 
 void addStates(ZrShowcasePage *page)
 {
-    page->beginRow(text("States"));
-    page->addSample(text("Normal"), new ZrLabel(text("Order quantity")));
-    page->addSample(text("Checked"), checked());
-    page->addSample(text("Disabled"), disabled());
-    page->addSample(text("Empty"), new ZrLabel);
-    page->beginRow(text("Text colours by flag"));
-    page->addSample(text("Up"), flagged(QStringLiteral("up")));
-    page->addSample(text("Down"), flagged(QStringLiteral("down")));
-    page->addSample(text("Warning"), flagged(QStringLiteral("warn")));
-    page->addSample(text("Error"), flagged(QStringLiteral("error")));
+    page->beginRow(ZrShowcase::tr("States"));
+    page->addSample(ZrShowcase::tr("Normal"), new ZrLabel(ZrShowcase::tr("Order quantity")));
+    page->addSample(ZrShowcase::tr("Checked"), checked());
+    page->addSample(ZrShowcase::tr("Disabled"), disabled());
+    page->addSample(ZrShowcase::tr("Empty"), new ZrLabel);
+    page->beginRow(ZrShowcase::tr("Text colours by flag"));
+    page->addSample(ZrShowcase::tr("Up"), flagged(QStringLiteral("up")));
+    page->addSample(ZrShowcase::tr("Down"), flagged(QStringLiteral("down")));
+    page->addSample(ZrShowcase::tr("Warning"), flagged(QStringLiteral("warn")));
+    page->addSample(ZrShowcase::tr("Error"), flagged(QStringLiteral("error")));
 }
 
 void addTexts(ZrShowcasePage *page)
 {
-    page->beginRow(text("Texts"));
-    page->addSample(text("Chinese"), new ZrLabel(QStringLiteral("委托数量")));
-    page->addSample(text("English"), new ZrLabel(QStringLiteral("Order quantity")));
-    page->addSample(text("Markup stays text"), new ZrLabel(QStringLiteral("<b>Bid</b> & Ask")));
-    page->addSample(text("Long"),
+    page->beginRow(ZrShowcase::tr("Texts"));
+    page->addSample(ZrShowcase::tr("Chinese"), new ZrLabel(QStringLiteral("委托数量")));
+    page->addSample(ZrShowcase::tr("English"), new ZrLabel(QStringLiteral("Order quantity")));
+    page->addSample(ZrShowcase::tr("Markup stays text"), new ZrLabel(QStringLiteral("<b>Bid</b> & Ask")));
+    page->addSample(ZrShowcase::tr("Long"),
                     wrapped(QStringLiteral("The quantity that is sent with each slice of the order; the rest "
                                            "is kept back until the slice is filled.")));
 }
@@ -71,7 +65,7 @@ ZrShowcasePage *zrMakeLabelPage(QWidget *parent)
 {
     auto *const page = new ZrShowcasePage(
         QStringLiteral("label"), QStringLiteral("ZrLabel"),
-        text("A label whose look can be switched, and which carries its form's data."), parent);
+        ZrShowcase::tr("A label whose look can be switched, and which carries its form's data."), parent);
     addStates(page);
     addTexts(page);
     return page;

@@ -1,27 +1,14 @@
 #include "ZrLineEdit.h"
+#include "ZrShowcase.h"
 #include "ZrShowcasePage.h"
 #include "ZrShowcasePages.h"
 
-#include <QtCore/QCoreApplication>
-
 namespace {
-QString text(const char *source)
-{
-    return QCoreApplication::translate("ZrShowcase", source);
-}
-
 ZrLineEdit *filled(const QString &content)
 {
     auto *const edit = new ZrLineEdit;
     edit->setText(content);
     edit->setCursorPosition(0);
-    return edit;
-}
-
-ZrLineEdit *hinted(const QString &hint)
-{
-    ZrLineEdit *const edit = filled(QString());
-    edit->setPlaceholderText(hint);
     return edit;
 }
 
@@ -42,24 +29,24 @@ ZrLineEdit *disabled()
 void addStates(ZrShowcasePage *page)
 {
     const auto make = []() -> QWidget * { return filled(QStringLiteral("600000.SH")); };
-    page->beginRow(text("States"));
-    page->addSample(text("Normal"), make());
-    page->addPicture(text("Hover"), make, ZrShowcasePage::State::Hover);
-    page->addPicture(text("Focus"), make, ZrShowcasePage::State::Focus);
-    page->addSample(text("Disabled"), disabled());
-    page->addSample(text("Read-only"), readOnly());
-    page->addSample(text("Empty"), filled(QString()));
-    page->addSample(text("Empty with a hint"), hinted(text("Symbol or name")));
+    page->beginRow(ZrShowcase::tr("States"));
+    page->addSample(ZrShowcase::tr("Normal"), make());
+    page->addPicture(ZrShowcase::tr("Hover"), make, ZrShowcasePage::State::Hover);
+    page->addPicture(ZrShowcase::tr("Focus"), make, ZrShowcasePage::State::Focus);
+    page->addSample(ZrShowcase::tr("Disabled"), disabled());
+    page->addSample(ZrShowcase::tr("Read-only"), readOnly());
+    page->addSample(ZrShowcase::tr("Empty"), filled(QString()));
 }
 
 void addTexts(ZrShowcasePage *page)
 {
-    page->beginRow(text("Texts"));
-    page->addSample(text("Chinese"), filled(QStringLiteral("浦发银行")));
-    page->addSample(text("English"), filled(QStringLiteral("Pudong Development Bank")));
-    page->addSample(text("Long"), filled(QStringLiteral("600000.SH, 600004.SH, 600006.SH, 600007.SH, "
-                                                        "600008.SH, 600009.SH, 600010.SH, 600011.SH")));
-    page->addSample(text("Markup stays text"), filled(QStringLiteral("<b>600000</b> & 600004")));
+    page->beginRow(ZrShowcase::tr("Texts"));
+    page->addSample(ZrShowcase::tr("Chinese"), filled(QStringLiteral("昀朔农业")));
+    page->addSample(ZrShowcase::tr("English"), filled(QStringLiteral("Yunshuo Farming")));
+    page->addSample(ZrShowcase::tr("Long"),
+                    filled(QStringLiteral("600000.SH, 600004.SH, 600006.SH, 600007.SH, "
+                                          "600008.SH, 600009.SH, 600010.SH, 600011.SH")));
+    page->addSample(ZrShowcase::tr("Markup stays text"), filled(QStringLiteral("<b>600000</b> & 1")));
 }
 } // namespace
 
@@ -67,7 +54,8 @@ ZrShowcasePage *zrMakeLineEditPage(QWidget *parent)
 {
     auto *const page = new ZrShowcasePage(
         QStringLiteral("line-edit"), QStringLiteral("ZrLineEdit"),
-        text("A text field that carries its form's data and tells when the entry is finished."), parent);
+        ZrShowcase::tr("A text field that carries its form's data and tells when the entry is finished."),
+        parent);
     addStates(page);
     addTexts(page);
     return page;

@@ -87,7 +87,6 @@ ZrShowcasePage *zrMakeMenuPage(QWidget *parent)
     page->addSample(ZrShowcase::tr("Current entry"), withCurrentEntry());
     page->addSample(ZrShowcase::tr("Disabled"), disabled());
     page->addSample(ZrShowcase::tr("Check marks"), withChecks());
-    page->addSample(ZrShowcase::tr("Empty"), withEntries({}));
     page->beginRow(ZrShowcase::tr("Texts"));
     page->addSample(
         ZrShowcase::tr("Chinese"),

@@ -1,15 +1,9 @@
 #include "ZrPushButton.h"
+#include "ZrShowcase.h"
 #include "ZrShowcasePage.h"
 #include "ZrShowcasePages.h"
 
-#include <QtCore/QCoreApplication>
-
 namespace {
-QString text(const char *source)
-{
-    return QCoreApplication::translate("ZrShowcase", source);
-}
-
 // An ampersand in a name is none of a shortcut.
 QString plain(QString name)
 {
@@ -18,7 +12,7 @@ QString plain(QString name)
 
 ZrPushButton *disabled()
 {
-    auto *const button = new ZrPushButton(text("Send order"));
+    auto *const button = new ZrPushButton(ZrShowcase::tr("Send order"));
     button->setEnabled(false);
     return button;
 }
@@ -31,21 +25,21 @@ ZrPushButton *named(const QString &name)
 
 ZrShowcasePage *zrMakePushButtonPage(QWidget *parent)
 {
-    const auto make = []() -> QWidget * { return new ZrPushButton(text("Send order")); };
-    auto *const page =
-        new ZrShowcasePage(QStringLiteral("push-button"), QStringLiteral("ZrPushButton"),
-                           text("A button that lights up under the pointer and the focus."), parent);
-    page->beginRow(text("States"));
-    page->addSample(text("Normal"), make());
-    page->addPicture(text("Hover"), make, ZrShowcasePage::State::Hover);
-    page->addPicture(text("Focus"), make, ZrShowcasePage::State::Focus);
-    page->addPicture(text("Pressed"), make, ZrShowcasePage::State::Pressed);
-    page->addSample(text("Disabled"), disabled());
-    page->beginRow(text("Texts"));
-    page->addSample(text("Chinese"), named(QStringLiteral("发送委托")));
-    page->addSample(text("English"), named(QStringLiteral("Send order")));
-    page->addSample(text("Empty"), named(QString()));
-    page->addSample(text("Long"), named(QStringLiteral("Cancel all open orders of this account")));
-    page->addSample(text("An ampersand is no shortcut"), named(QStringLiteral("Bid & Ask")));
+    const auto make = []() -> QWidget * { return new ZrPushButton(ZrShowcase::tr("Send order")); };
+    auto *const page = new ZrShowcasePage(
+        QStringLiteral("push-button"), QStringLiteral("ZrPushButton"),
+        ZrShowcase::tr("A button that lights up under the pointer and the focus."), parent);
+    page->beginRow(ZrShowcase::tr("States"));
+    page->addSample(ZrShowcase::tr("Normal"), make());
+    page->addPicture(ZrShowcase::tr("Hover"), make, ZrShowcasePage::State::Hover);
+    page->addPicture(ZrShowcase::tr("Focus"), make, ZrShowcasePage::State::Focus);
+    page->addPicture(ZrShowcase::tr("Pressed"), make, ZrShowcasePage::State::Pressed);
+    page->addSample(ZrShowcase::tr("Disabled"), disabled());
+    page->beginRow(ZrShowcase::tr("Texts"));
+    page->addSample(ZrShowcase::tr("Chinese"), named(QStringLiteral("发送委托")));
+    page->addSample(ZrShowcase::tr("English"), named(QStringLiteral("Send order")));
+    page->addSample(ZrShowcase::tr("Empty"), named(QString()));
+    page->addSample(ZrShowcase::tr("Long"), named(QStringLiteral("Cancel all open orders of this account")));
+    page->addSample(ZrShowcase::tr("An ampersand is no shortcut"), named(QStringLiteral("Bid & Ask")));
     return page;
 }

@@ -1,15 +1,9 @@
 #include "ZrRadioButton.h"
+#include "ZrShowcase.h"
 #include "ZrShowcasePage.h"
 #include "ZrShowcasePages.h"
 
-#include <QtCore/QCoreApplication>
-
 namespace {
-QString text(const char *source)
-{
-    return QCoreApplication::translate("ZrShowcase", source);
-}
-
 // An ampersand in a name is none of a shortcut.
 QString plain(QString name)
 {
@@ -26,32 +20,33 @@ ZrRadioButton *named(const QString &name, bool checked = false)
 
 ZrRadioButton *disabled(bool checked)
 {
-    ZrRadioButton *const button = named(text("Limit price"), checked);
+    ZrRadioButton *const button = named(ZrShowcase::tr("Limit price"), checked);
     button->setEnabled(false);
     return button;
 }
 
 void addStates(ZrShowcasePage *page)
 {
-    const auto make = []() -> QWidget * { return named(text("Limit price")); };
-    page->beginRow(text("States"));
-    page->addSample(text("Normal"), make());
-    page->addPicture(text("Hover"), make, ZrShowcasePage::State::Hover);
-    page->addPicture(text("Focus"), make, ZrShowcasePage::State::Focus);
-    page->addPicture(text("Pressed"), make, ZrShowcasePage::State::Pressed);
-    page->addSample(text("Chosen"), named(text("Limit price"), true));
-    page->addSample(text("Disabled"), disabled(false));
-    page->addSample(text("Chosen and disabled"), disabled(true));
+    const auto make = []() -> QWidget * { return named(ZrShowcase::tr("Limit price")); };
+    page->beginRow(ZrShowcase::tr("States"));
+    page->addSample(ZrShowcase::tr("Normal"), make());
+    page->addPicture(ZrShowcase::tr("Hover"), make, ZrShowcasePage::State::Hover);
+    page->addPicture(ZrShowcase::tr("Focus"), make, ZrShowcasePage::State::Focus);
+    page->addPicture(ZrShowcase::tr("Pressed"), make, ZrShowcasePage::State::Pressed);
+    page->addSample(ZrShowcase::tr("Chosen"), named(ZrShowcase::tr("Limit price"), true));
+    page->addSample(ZrShowcase::tr("Disabled"), disabled(false));
+    page->addSample(ZrShowcase::tr("Chosen and disabled"), disabled(true));
 }
 
 void addTexts(ZrShowcasePage *page)
 {
-    page->beginRow(text("Texts"));
-    page->addSample(text("Chinese"), named(QStringLiteral("限价")));
-    page->addSample(text("English"), named(QStringLiteral("Limit price")));
-    page->addSample(text("Empty"), named(QString()));
-    page->addSample(text("Long"), named(QStringLiteral("Volume weighted average price until the close")));
-    page->addSample(text("An ampersand is no shortcut"), named(QStringLiteral("Bid & Ask")));
+    page->beginRow(ZrShowcase::tr("Texts"));
+    page->addSample(ZrShowcase::tr("Chinese"), named(QStringLiteral("限价")));
+    page->addSample(ZrShowcase::tr("English"), named(QStringLiteral("Limit price")));
+    page->addSample(ZrShowcase::tr("Empty"), named(QString()));
+    page->addSample(ZrShowcase::tr("Long"),
+                    named(QStringLiteral("Volume weighted average price until the close")));
+    page->addSample(ZrShowcase::tr("An ampersand is no shortcut"), named(QStringLiteral("Bid & Ask")));
 }
 } // namespace
 
@@ -59,7 +54,7 @@ ZrShowcasePage *zrMakeRadioButtonPage(QWidget *parent)
 {
     auto *const page =
         new ZrShowcasePage(QStringLiteral("radio-button"), QStringLiteral("ZrRadioButton"),
-                           text("One choice among few, which carries its form's data."), parent);
+                           ZrShowcase::tr("One choice among few, which carries its form's data."), parent);
     addStates(page);
     addTexts(page);
     return page;

@@ -74,7 +74,7 @@ ZrShowcasePage *zrMakeShadowFramePage(QWidget *parent)
         ZrShowcase::tr("Long text"),
         withMargin(10, ZrShowcase::tr("The exchange has refused the order: price outside the limits.")));
     page->beginRow(ZrShowcase::tr("Margin"));
-    for (const int marginPx : {0, 4, 10, 16})
+    for (const int marginPx : {1, 4, 10, 16})
         page->addSample(ZrShowcase::tr("%1 px").arg(marginPx),
                         withMargin(marginPx, ZrShowcase::tr("Send the order?")));
     page->beginRow(ZrShowcase::tr("Radius"));

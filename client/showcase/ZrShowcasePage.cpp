@@ -15,6 +15,9 @@ namespace {
 constexpr int EdgePx = 24;
 constexpr int CaptionGapPx = 6;
 constexpr int RowGapPx = 20;
+// Chinese and Latin lines differ in height: what stands side by side would not stand on one line.
+constexpr int CaptionPx = 17;
+constexpr int LabelPx = 22;
 
 QLabel *makeLabel(const char *name, const QString &text, QWidget *parent)
 {
@@ -89,7 +92,9 @@ QWidget *ZrShowcasePage::addCell(const QString &caption, QWidget *shown)
     auto *const column = new QVBoxLayout(cell);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(CaptionGapPx);
-    column->addWidget(makeLabel("showcaseCaption", caption, cell));
+    QLabel *const label = makeLabel("showcaseCaption", caption, cell);
+    label->setFixedHeight(CaptionPx);
+    column->addWidget(label);
     const bool fills = shown->sizePolicy().expandingDirections().testFlag(Qt::Horizontal);
     column->addWidget(shown, 0, fills ? Qt::Alignment(Qt::AlignTop) : Qt::AlignTop | Qt::AlignLeft);
     column->addStretch(1);
@@ -105,6 +110,8 @@ void ZrShowcasePage::addSample(const QString &caption, QWidget *sample)
     }
     if (sample->accessibleName().isEmpty())
         sample->setAccessibleName(caption);
+    if (qobject_cast<QLabel *>(sample))
+        sample->setMinimumHeight(qMax(LabelPx, sample->minimumHeight()));
     addCell(caption, sample);
     // A window was hidden when it became a child.
     sample->show();

@@ -34,5 +34,7 @@ QList<ZrShowcaseEntry> ZrShowcasePages::all()
         entry("shortcut-key", "ZrShortCutKeyWidget", "editors", zrMakeShortCutKeyWidgetPage),
 
         // --- combos ---
+        entry("multi-combo", "ZrMultiComboBox", "combos", zrMakeMultiComboPage),
+        entry("linkage-combo", "ZrLinkageCombox", "combos", zrMakeLinkageComboPage),
     };
 }

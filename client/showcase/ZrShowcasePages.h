@@ -49,3 +49,5 @@ ZrShowcasePage *zrMakeDateEditPage(QWidget *parent);
 ZrShowcasePage *zrMakeShortCutKeyWidgetPage(QWidget *parent);
 
 // --- combos ---
+ZrShowcasePage *zrMakeMultiComboPage(QWidget *parent);
+ZrShowcasePage *zrMakeLinkageComboPage(QWidget *parent);

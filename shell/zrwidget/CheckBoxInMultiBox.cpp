@@ -1,21 +1,10 @@
 #include "CheckBoxInMultiBox.h"
 
-#include "ZrPlainText.h"
+#include "ZrElidedLine.h"
 #include "ZrPlainTip.h"
 
 #include <QtWidgets/QStyleOptionButton>
 #include <QtWidgets/QStylePainter>
-
-namespace {
-/// The text as a style draws it: one line, no longer than the place for it, no ampersand lost.
-QString shownText(const QString &text, const QStyleOptionButton &option, int widthPx)
-{
-    // The bound keeps measuring cheap: no row is wide enough to show more.
-    const int most = qMax(1, widthPx);
-    const QString line = ZrPlainText::caption(text, {most, 1, most});
-    return option.fontMetrics.elidedText(line, Qt::ElideRight, widthPx, Qt::TextShowMnemonic);
-}
-} // namespace
 
 CheckBoxInMultiBox::CheckBoxInMultiBox(QWidget *parent)
     : QCheckBox(parent)
@@ -28,8 +17,9 @@ CheckBoxInMultiBox::CheckBoxInMultiBox(const QString &text, QWidget *parent)
     setText(text);
     // The base makes one of an ampersand.
     setShortcut(QKeySequence());
-    // The base reads "A&B" as "AB".
-    setAccessibleName(text);
+    // The base would say "AB" for "A&B". A name of its own costs each of thousands of boxes, so only then.
+    if (text.contains(QLatin1Char('&')))
+        setAccessibleName(text);
 }
 
 QSize CheckBoxInMultiBox::sizeHint() const
@@ -54,6 +44,6 @@ void CheckBoxInMultiBox::paintEvent(QPaintEvent *)
     QStyleOptionButton option;
     initStyleOption(&option);
     const QRect contents = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, this);
-    option.text = shownText(text(), option, contents.width());
+    option.text = ZrElidedLine::of(text(), option.fontMetrics, contents.width());
     painter.drawControl(QStyle::CE_CheckBox, option);
 }

@@ -1,5 +1,8 @@
 #include "ZrLabel.h"
 
+#include "ZrLabelRoom.h"
+#include "ZrPlainText.h"
+
 #include <QtWidgets/QStyle>
 
 ZrLabel::ZrLabel(QWidget *parent)
@@ -15,6 +18,16 @@ ZrLabel::ZrLabel(const QString &text, QWidget *parent)
 }
 
 ZrLabel::~ZrLabel() = default;
+
+void ZrLabel::setText(const QString &text)
+{
+    QLabel::setText(ZrPlainText::beginning(text, ZrPlainText::labelBound));
+}
+
+QSize ZrLabel::minimumSizeHint() const
+{
+    return ZrLabelRoom::least(QLabel::minimumSizeHint());
+}
 
 bool ZrLabel::isChecked() const
 {

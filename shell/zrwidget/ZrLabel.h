@@ -10,10 +10,12 @@
 /// Shape:     a QLabel with a role map (see ZrFieldRoles) and the properties below, which select rules:
 ///            ZrLabel[checked="true"], ZrLabel[textColorFlag="warn"]. What a flag means is the sheet's
 ///            affair.
+///            Plain text; one beyond the bound of ZrPlainText is shown as its beginning, and text() is that.
+///            The label never claims much of its window's width: a text too wide for it is cut off.
 /// Ownership: normal QWidget parent rules.
 /// Threads:   GUI thread only.
 /// Errors:    a role that was never set reads as an invalid variant.
-/// Not supported: rich text, unless the caller sets the text format; labels show names from outside.
+/// Not supported: rich text, unless the caller sets the text format and hands it to the base.
 class ZRWIDGET_EXPORT ZrLabel : public QLabel
 {
     Q_OBJECT
@@ -23,6 +25,10 @@ public:
     explicit ZrLabel(QWidget *parent = nullptr);
     explicit ZrLabel(const QString &text, QWidget *parent = nullptr);
     ~ZrLabel() override;
+
+    /// Hides the base's: names come from outside.
+    void setText(const QString &text);
+    QSize minimumSizeHint() const override;
 
     bool isChecked() const;
     void setChecked(bool checked);

@@ -57,6 +57,8 @@ void ZrLogWidgetPrivate::createLog()
     textEdit = new QTextEdit(label);
     textEdit->setReadOnly(true);
     textEdit->setTabChangesFocus(true);
+    // A history of a log that grows all day would hold it twice.
+    textEdit->setUndoRedoEnabled(false);
     textEdit->setAccessibleName(ZrLogWidget::tr("Log"));
     auto *const layout = new QHBoxLayout(label);
     layout->setContentsMargins(0, 0, 0, 0);

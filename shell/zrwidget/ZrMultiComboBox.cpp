@@ -1,6 +1,7 @@
 #include "ZrMultiComboBox.h"
 
 #include "CheckBoxInMultiBox.h"
+#include "ZrMultiComboEdit.h"
 #include "ZrMultiComboKeys.h"
 #include "ZrMultiComboList.h"
 #include "ZrPlainTip.h"
@@ -11,15 +12,12 @@
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QKeyEvent>
-#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QScrollBar>
-
-#include <limits>
 
 ZrMultiComboBox::ZrMultiComboBox(QWidget *parent)
     : QComboBox(parent)
     , m_list(new ZrMultiComboList(this))
-    , m_edit(new QLineEdit(this))
+    , m_edit(new ZrMultiComboEdit(this))
 {
     m_edit->installEventFilter(this);
     installEventFilter(this);
@@ -27,16 +25,17 @@ ZrMultiComboBox::ZrMultiComboBox(QWidget *parent)
     setView(m_list);
     setLineEdit(m_edit);
     setFrame(false);
-    m_edit->setReadOnly(true);
-    // Nothing is typed, so nothing is completed; and the joined texts of many rows are long.
+    // Nothing is typed, so nothing is completed.
     m_edit->setCompleter(nullptr);
-    m_edit->setMaxLength(std::numeric_limits<int>::max());
-    m_edit->setCursor(Qt::ArrowCursor);
+    m_list->takeOwnLook();
     m_edit->setAccessibleName(tr("Selected items"));
     new ZrPlainTip(m_edit);
     new ZrMultiComboKeys(this, m_list);
     // The base writes its current item into the editor; what stands there is ours to say.
     connect(m_edit, &QLineEdit::textChanged, this, &ZrMultiComboBox::packShowText);
+    // On a parent with a style sheet the parts have asked that sheet for their look already, and the toolkit
+    // forgets those answers for another sheet only once the box is polished.
+    ensurePolished();
     ZrCore::instance()->addStyle2View(this, Constants::SKIN_SYSTEM +
                                                 QStringLiteral("zrwidget/zrmulticombobox.css"));
 }
@@ -208,11 +207,9 @@ void ZrMultiComboBox::packShowText()
     // Blocked: the change would call this again.
     const QSignalBlocker blocker(m_edit);
     if (texts.isEmpty()) {
-        m_edit->setText(m_noSelectedText);
+        m_edit->setShownText(m_noSelectedText);
     } else {
-        m_edit->setText(m_selectedText);
+        m_edit->setShownText(m_selectedText);
         m_edit->setToolTip(m_selectedText);
     }
-    // The beginning is in sight, not the end.
-    m_edit->setCursorPosition(0);
 }

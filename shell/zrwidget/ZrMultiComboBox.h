@@ -7,7 +7,7 @@
 #include <QtWidgets/QComboBox>
 
 class CheckBoxInMultiBox;
-class QLineEdit;
+class ZrMultiComboEdit;
 class ZrMultiComboList;
 
 /// A combo box whose popup is a list of check boxes: any number of items can be ticked, and the closed box
@@ -74,7 +74,7 @@ private:
     void listenTo(const CheckBoxInMultiBox *box);
 
     ZrMultiComboList *m_list; // our child through the base: model and view
-    QLineEdit *m_edit;        // our child: the editor, read-only
+    ZrMultiComboEdit *m_edit; // our child: the editor, read-only
     QString m_selectedText;   // the joined texts
     QString m_noSelectedText;
 };

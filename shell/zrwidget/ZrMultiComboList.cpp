@@ -6,6 +6,7 @@
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QStyledItemDelegate>
 
 namespace {
 bool isMouseButton(const QEvent *event)
@@ -21,6 +22,14 @@ ZrMultiComboList::ZrMultiComboList(QWidget *parent)
     // Rows are alike; measuring each of thousands is most of what opening would cost.
     setUniformItemSizes(true);
     setAccessibleName(tr("Choices"));
+}
+
+void ZrMultiComboList::takeOwnLook()
+{
+    QAbstractItemDelegate *const menus = itemDelegate();
+    setItemDelegate(new QStyledItemDelegate(this));
+    menus->deleteLater();
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
 
 QVector<CheckBoxInMultiBox *> ZrMultiComboList::addRows(const QVector<Row> &rows)

@@ -25,6 +25,9 @@ public:
 
     explicit ZrMultiComboList(QWidget *parent = nullptr);
 
+    /// Rows as the style sheet says and a scroll bar: to be called after a combo box, which sets up its view
+    /// for a menu, has taken the list and got its editor.
+    void takeOwnLook();
     /// Appends the rows and gives their check boxes, in their order.
     QVector<CheckBoxInMultiBox *> addRows(const QVector<Row> &rows);
     CheckBoxInMultiBox *boxAt(int row) const;

@@ -2,6 +2,7 @@
 
 #include "zrutils/ZrCommonUtils.h"
 
+#include <QtCore/QSize>
 #include <QtGui/QTextCursor>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QTextEdit>
@@ -206,6 +207,17 @@ QString ZrPlainText::beginning(const QString &text, Bound bound)
         return withShortLines(text, bound.lineCharacters);
     const QString part = withShortLines(text.left(end), bound.lineCharacters);
     return part.endsWith(mark()) ? part : part + mark();
+}
+
+QString ZrPlainText::visiblePart(const QString &text, const QSize &placePx)
+{
+    // No character is narrower than a pixel or lower than these.
+    constexpr int leastLinePx = 4;
+    const int lines = qMax(1, placePx.height() / leastLinePx);
+    const int inLine = qMax(1, placePx.width());
+    const int most =
+        inLine > std::numeric_limits<int>::max() / lines ? std::numeric_limits<int>::max() : inLine * lines;
+    return text.size() <= inLine ? text : beginning(text, {most, lines, inLine});
 }
 
 QString ZrPlainText::breakable(const QString &text)

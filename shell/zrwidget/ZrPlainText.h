@@ -5,8 +5,18 @@
 #include <QtCore/QString>
 
 class QLabel;
+class QSize;
 class QTextEdit;
 class QWidget;
+
+/// How much of a text is shown. A text beyond its characters or lines ends in a mark, and so does a line
+/// beyond its own.
+struct ZrTextBound
+{
+    int characters;
+    int lines;
+    int lineCharacters = 1000;
+};
 
 /// Puts a text that comes from outside (a message, a reason, a name, a log line) onto a widget: the one place
 /// that makes such a text safe and cheap to show.
@@ -26,14 +36,7 @@ class QWidget;
 class ZRWIDGET_PRIVATE_EXPORT ZrPlainText
 {
 public:
-    /// How much of a text is shown. A text beyond its characters or lines ends in the mark, and so does a
-    /// line beyond its own.
-    struct Bound
-    {
-        int characters;
-        int lines;
-        int lineCharacters;
-    };
+    using Bound = ZrTextBound;
     // A label lays its text out some six times. All of them together take 0.5 ms for 600 Latin characters, 3
     // ms for those that no font has. 20 lines don't fill a screen yet.
     static constexpr Bound labelBound{600, 20, 600};
@@ -64,6 +67,9 @@ public:
     static QString caption(const QString &text, Bound bound = captionBound);
     /// What of the text is within the bound, and mark() wherever something was left out.
     static QString beginning(const QString &text, Bound bound);
+    /// The text, or its beginning and mark() when more than that can't be seen in a place of this size: what
+    /// is painted needs no measuring of the rest. Costs nothing for a text that may fit.
+    static QString visiblePart(const QString &text, const QSize &placePx);
     /// The text with places to break inside words too long for a line.
     static QString breakable(const QString &text);
     /// What stands where the rest was left out.

@@ -1,5 +1,8 @@
 #include "ZrQuotationLabel.h"
 
+#include "ZrLabelRoom.h"
+#include "ZrPlainText.h"
+
 #include "zrcore/ZrCore.h"
 #include "zrdefine/Constants.h"
 
@@ -20,6 +23,16 @@ ZrQuotationLabel::ZrQuotationLabel(const QString &text, QWidget *parent)
 }
 
 ZrQuotationLabel::~ZrQuotationLabel() = default;
+
+void ZrQuotationLabel::setText(const QString &text)
+{
+    QLabel::setText(ZrPlainText::beginning(text, ZrPlainText::labelBound));
+}
+
+QSize ZrQuotationLabel::minimumSizeHint() const
+{
+    return ZrLabelRoom::least(QLabel::minimumSizeHint());
+}
 
 int ZrQuotationLabel::getLabelMode() const
 {

@@ -9,10 +9,12 @@
 ///
 /// Shape:     a QLabel; the skin's sheet has a rule for each mode, ZrQuotationLabel[labelMode="1"]. The skins
 ///            that come with the library know 0 (plain), 1 (up), 2 (down) and 3 (highlighted).
+///            Plain text; one beyond the bound of ZrPlainText is shown as its beginning, and text() is that.
+///            The label never claims much of its window's width: a text too wide for it is cut off.
 /// Ownership: normal QWidget parent rules.
 /// Threads:   GUI thread only.
 /// Errors:    a mode that the sheet doesn't know looks like 0.
-/// Not supported: rich text, unless the caller sets the text format; quotes come from outside.
+/// Not supported: rich text, unless the caller sets the text format and hands it to the base.
 class ZRWIDGET_EXPORT ZrQuotationLabel : public QLabel, public IZrSkin
 {
     Q_OBJECT
@@ -22,6 +24,10 @@ public:
     explicit ZrQuotationLabel(QWidget *parent = nullptr);
     explicit ZrQuotationLabel(const QString &text, QWidget *parent = nullptr);
     ~ZrQuotationLabel() override;
+
+    /// Hides the base's: quotes come from outside.
+    void setText(const QString &text);
+    QSize minimumSizeHint() const override;
 
     int getLabelMode() const;
     /// Emits nothing; see labelModeChanged().

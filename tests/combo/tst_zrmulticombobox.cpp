@@ -30,6 +30,7 @@ private slots:
     void theBaseCurrentItemIsNotShown();
     void theBeginningOfALongTextIsInSight();
     void markupIsShownAsItIs();
+    void nothingIsSelectedForWhoComesByTheKeyboard();
 
     // --- selecting by program ---
     void selectingTellsNobodyButListenersOfTheBox();
@@ -259,6 +260,16 @@ void tst_ZrMultiComboBox::markupIsShownAsItIs()
     QCOMPARE(scene.shown(), markup);
     QCOMPARE(scene.edit()->toolTip(), markup);
     QVERIFY(tipOver(scene.edit()).contains(QStringLiteral("&lt;b&gt;")));
+}
+
+void tst_ZrMultiComboBox::nothingIsSelectedForWhoComesByTheKeyboard()
+{
+    ComboScene scene(3);
+    scene.combo()->selectIndex(1, true);
+    scene.combo()->clearFocus();
+    scene.combo()->setFocus(Qt::TabFocusReason);
+    QVERIFY(scene.combo()->hasFocus());
+    QVERIFY(!scene.edit()->hasSelectedText());
 }
 
 void tst_ZrMultiComboBox::selectingTellsNobodyButListenersOfTheBox()

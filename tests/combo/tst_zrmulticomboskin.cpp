@@ -1,5 +1,7 @@
 #include "ComboScene.h"
 
+#include <QtWidgets/QScrollBar>
+
 #include <cmath>
 
 /// The box in the skins that are shipped: pictures, marks, contrast, change of skin.
@@ -13,6 +15,8 @@ private slots:
     void theFocusIsMarked();
     void theCurrentRowIsMarked_data() { addSkins(); }
     void theCurrentRowIsMarked();
+    void rowsAndScrollBarAreTheSkins_data();
+    void rowsAndScrollBarAreTheSkins();
     void textsStandOut_data() { addSkins(); }
     void textsStandOut();
     void anotherSkinLooksLikeAFreshStartInIt_data() { addSkins(); }
@@ -113,6 +117,34 @@ void tst_ZrMultiComboSkin::theCurrentRowIsMarked()
     QCOMPARE(countOf(rowImage(scene, 0).copy(0, 0, 2, 24), accent), 0);
     const QPoint rightEnd(scene.box(1)->width() - 4, 12);
     QVERIFY(rowImage(scene, 1).pixelColor(rightEnd) != rowImage(scene, 0).pixelColor(rightEnd));
+}
+
+void tst_ZrMultiComboSkin::rowsAndScrollBarAreTheSkins_data()
+{
+    QTest::addColumn<QString>("around");
+    QTest::newRow("plain window") << "";
+    QTest::newRow("window with a sheet")
+        << "QComboBox QAbstractItemView{color: red;} QLineEdit{padding: 9px;}";
+}
+
+// A combo box sets its view up for a menu, without a scroll bar and with rows of its own.
+void tst_ZrMultiComboSkin::rowsAndScrollBarAreTheSkins()
+{
+    QFETCH(QString, around);
+    const SkinnedHost host(QStringLiteral("dark"));
+    QWidget window;
+    window.setStyleSheet(around);
+    ZrMultiComboBox combo(&window);
+    for (int row = 0; row < 50; ++row)
+        combo.addItem(QString::number(row), row);
+    window.resize(300, 100);
+    window.show();
+    combo.showPopup();
+    const QAbstractItemView *const list = combo.view();
+    QCOMPARE(list->visualRect(combo.model()->index(0, 0)).height(), 24);
+    QVERIFY(list->verticalScrollBar()->isVisible());
+    QCOMPARE(combo.view()->viewport()->height() / 24, combo.maxVisibleItems());
+    combo.hidePopup();
 }
 
 void tst_ZrMultiComboSkin::textsStandOut()

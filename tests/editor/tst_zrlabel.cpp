@@ -1,5 +1,6 @@
 #include "EditorScene.h"
 #include "ZrLabel.h"
+#include "ZrLabelRoom.h"
 #include "ZrPlainText.h"
 #include "ZrTestMain.h"
 
@@ -104,11 +105,16 @@ void tst_ZrLabel::outsideTextIsNoMarkup()
 
 void tst_ZrLabel::aHugeNameSetsNobodysWidth()
 {
-    ZrLabel label;
-    ZrPlainText::setCaption(&label, QString(100000, 'x'));
-    QVERIFY(label.minimumSizeHint().width() > 0);
-    QVERIFY(label.minimumWidth() < 10);
+    ZrLabel label(QStringLiteral("Price"));
+    QLabel plain(QStringLiteral("Price"));
+    QCOMPARE(label.minimumSizeHint(), plain.minimumSizeHint());
+    label.setText(QString(100000, 'W'));
+    QVERIFY(label.text().startsWith(QString(500, 'W')));
+    QVERIFY(label.text().endsWith(ZrPlainText::mark()));
     QVERIFY(label.text().size() < 1000);
+    QCOMPARE(label.minimumSizeHint(), QSize(ZrLabelRoom::mostPx, plain.minimumSizeHint().height()));
+    label.setWordWrap(true);
+    QCOMPARE(label.minimumSizeHint().width(), ZrLabelRoom::mostPx);
 }
 
 ZR_TEST_MAIN(tst_ZrLabel)

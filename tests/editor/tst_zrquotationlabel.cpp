@@ -163,8 +163,12 @@ void tst_ZrQuotationLabel::textsCanBeRead()
 
 void tst_ZrQuotationLabel::outsideTextIsNoMarkup()
 {
-    const ZrQuotationLabel label(QStringLiteral("<img src='/etc/hostname'>"));
+    ZrQuotationLabel label(QStringLiteral("<img src='/etc/hostname'>"));
     QCOMPARE(label.textFormat(), Qt::PlainText);
+    QCOMPARE(label.text(), QString("<img src='/etc/hostname'>"));
+    label.setText(QString(100000, 'W'));
+    QVERIFY(label.text().size() < 1000);
+    QVERIFY(label.minimumSizeHint().width() < 400);
 }
 
 ZR_TEST_MAIN(tst_ZrQuotationLabel)
