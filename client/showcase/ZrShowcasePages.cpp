@@ -12,6 +12,9 @@ QList<ZrShowcaseEntry> ZrShowcasePages::all()
         entry("header-view", "ZrHeaderView", "grid", zrMakeHeaderViewPage),
 
         // --- dialogs ---
+        entry("message-box", "ZrMessageBox", "dialogs", zrMakeMessageBoxPage),
+        entry("comfirm-dialog", "ZrComfirmDialog", "dialogs", zrMakeComfirmDialogPage),
+        entry("toast-dialog", "ZrToastDialog", "dialogs", zrMakeToastDialogPage),
 
         // --- frames ---
         entry("shadow-frame", "ZrShadowFrame", "frames", zrMakeShadowFramePage),

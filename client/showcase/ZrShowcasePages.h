@@ -27,6 +27,9 @@ ZrShowcasePage *zrMakeTableViewPage(QWidget *parent);
 ZrShowcasePage *zrMakeHeaderViewPage(QWidget *parent);
 
 // --- dialogs ---
+ZrShowcasePage *zrMakeMessageBoxPage(QWidget *parent);
+ZrShowcasePage *zrMakeComfirmDialogPage(QWidget *parent);
+ZrShowcasePage *zrMakeToastDialogPage(QWidget *parent);
 
 // --- frames ---
 ZrShowcasePage *zrMakeShadowFramePage(QWidget *parent);

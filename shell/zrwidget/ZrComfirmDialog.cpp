@@ -109,7 +109,7 @@ void ZrComfirmDialog::createTable(QWidget *parent)
 {
     d->table = new QTableView(parent);
     d->table->setObjectName(QStringLiteral("user_dataView"));
-    d->table->setAccessibleName(windowTitle());
+    d->table->setAccessibleName(windowTitle().isEmpty() ? tr("Values") : windowTitle());
     d->model = new ZrTableModel(d->table);
     d->model->setHeaderData({{{HEAD_DISPLAYROLE, tr("name")}, {HEAD_COLUMNINDEX, 0}},
                              {{HEAD_DISPLAYROLE, tr("value")}, {HEAD_COLUMNINDEX, 1}}});

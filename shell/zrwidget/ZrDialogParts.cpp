@@ -9,6 +9,7 @@
 
 namespace {
 
+constexpr int titleEndPx = 10; // between a long title and the window's edge or a mark
 constexpr int unboundedPx = 0xffffff;
 constexpr int widestButtonTextPx = 140; // two such buttons fit into the narrowest dialog
 
@@ -55,6 +56,7 @@ ZrDialogParts::Title ZrDialogParts::addTitle(QBoxLayout *below, const QString &t
     auto *const label = new ZrTitleLabel(frame);
     label->setObjectName(QStringLiteral("label_title"));
     label->setTitle(text);
+    label->setContentsMargins(0, 0, titleEndPx, 0);
     QHBoxLayout *const row = makeRow(QStringLiteral("horizontalLayout"), space, frame);
     row->addWidget(label, 1);
     below->addWidget(frame);

@@ -108,7 +108,7 @@ void ZrMessageBox::createWork(QFrame *work)
     outer->addLayout(inner);
     d->messageText = new ZrMessageText(work);
     d->messageText->setObjectName(QStringLiteral("textEdit_message"));
-    d->messageText->setAccessibleName(windowTitle());
+    d->messageText->setAccessibleName(windowTitle().isEmpty() ? tr("Message") : windowTitle());
     auto *const textRow = new QHBoxLayout;
     textRow->setObjectName(QStringLiteral("horizontalLayout_3"));
     textRow->addWidget(d->messageText);

@@ -4,6 +4,30 @@
 
 #include <QtGui/QAbstractTextDocumentLayout>
 
+namespace {
+
+constexpr int mostMeasured = 16000;
+constexpr ZrPlainText::Bound ofWords{16000, 2000, 16000};
+// An edit that has to break words takes the square of their length.
+constexpr ZrPlainText::Bound ofLongWords{8000, 2000, 1000};
+constexpr int longWord = 300;
+
+/// A message of words is shown whole, however long its paragraphs are.
+ZrPlainText::Bound boundOf(const QString &text)
+{
+    int length = 0;
+    for (const QChar unit : text) {
+        // From here on lines may break at each character.
+        const bool endsWord = unit.isSpace() || (unit >= QChar(0x2E80) && !unit.isSurrogate());
+        length = endsWord ? 0 : length + 1;
+        if (length > longWord)
+            return ofLongWords;
+    }
+    return ofWords;
+}
+
+} // namespace
+
 ZrMessageText::ZrMessageText(QWidget *parent)
     : QTextEdit(parent)
 {
@@ -22,14 +46,15 @@ ZrMessageText::ZrMessageText(QWidget *parent)
 
 void ZrMessageText::setMessage(const QString &text)
 {
-    ZrPlainText::setText(this, text);
+    m_measured = text.left(mostMeasured);
+    ZrPlainText::setText(this, text, boundOf(text));
     setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
 }
 
 int ZrMessageText::textWidthPx() const
 {
     polish();
-    return fontMetrics().horizontalAdvance(toPlainText());
+    return fontMetrics().horizontalAdvance(m_measured);
 }
 
 int ZrMessageText::lineHeightPx() const

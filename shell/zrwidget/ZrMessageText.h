@@ -18,7 +18,8 @@ public:
     explicit ZrMessageText(QWidget *parent = nullptr);
 
     void setMessage(const QString &text);
-    /// Width of the shown text on one line; line ends count as the font draws them.
+    /// Width of the message on one line, also of what isn't shown of it, as far as that makes a difference to
+    /// a window. Line ends count as the font draws them.
     int textWidthPx() const;
     int lineHeightPx() const;
 
@@ -28,4 +29,6 @@ protected:
 private:
     void centre();
     void polish() const;
+
+    QString m_measured; // the message, or enough of it to be wider than any box
 };

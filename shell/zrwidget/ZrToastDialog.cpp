@@ -108,21 +108,26 @@ void ZrToastDialog::ShowToastMessage(const QString &text, int level)
     QTimer::singleShot(qMax(0, d->durationMs), this, &QWidget::close);
 }
 
-// As wide as the text on one line, within bounds, and as high as it then needs.
+// As wide as the text needs without wrapping, within bounds, and as high as it then needs.
 void ZrToastDialog::fitText()
 {
     ensurePolished();
     d->textLabel->ensurePolished();
-    QLayout *const outer = layout();
-    outer->invalidate();
-    const QFontMetrics metrics = d->textLabel->fontMetrics();
-    const QStringList lines = d->textLabel->text().split(QLatin1Char('\n'));
-    int textPx = 0;
-    for (const QString &line : lines)
-        textPx = qMax(textPx, metrics.horizontalAdvance(line));
-    const int aroundPx = outer->totalMinimumSize().width() - d->textLabel->minimumSizeHint().width();
-    const int widthPx = qBound(smallestPx.width(), textPx + aroundPx, widestPx);
-    resize(widthPx, qMax(smallestPx.height(), outer->totalHeightForWidth(widthPx)));
+    d->textLabel->setWordWrap(false);
+    const int unwrappedPx = freshLayout()->totalSizeHint().width();
+    d->textLabel->setWordWrap(true);
+    const int widthPx = qBound(smallestPx.width(), unwrappedPx, widestPx);
+    resize(widthPx, qMax(smallestPx.height(), freshLayout()->totalHeightForWidth(widthPx)));
+}
+
+// A layout and the frame in it remember the text before.
+QLayout *ZrToastDialog::freshLayout()
+{
+    QWidget *const frame = d->textLabel->parentWidget();
+    frame->layout()->invalidate();
+    frame->updateGeometry();
+    layout()->invalidate();
+    return layout();
 }
 
 void ZrToastDialog::centreOverParent()

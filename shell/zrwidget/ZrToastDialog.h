@@ -41,6 +41,7 @@ public:
 private:
     void createParts();
     void fitText();
+    QLayout *freshLayout();
     void centreOverParent();
 
     Q_DISABLE_COPY(ZrToastDialog)

@@ -46,6 +46,7 @@ private slots:
     void thePropertiesKeepWhatTheyAreGiven();
     void aDragOfTheTitleMovesTheDialog();
     void textsFromOutsideAreShownAsTheyAre();
+    void theRowsHaveAName();
     void aVeryLongValueStaysInsideTheDialog();
 
 private:
@@ -428,6 +429,13 @@ void tst_ZrComfirmDialog::textsFromOutsideAreShownAsTheyAre()
     const QString tip = modelOf(dialog)->index(0, 1).data(Qt::ToolTipRole).toString();
     QVERIFY(!tip.contains("<img"));
     QVERIFY(!tip.contains("<a "));
+}
+
+void tst_ZrComfirmDialog::theRowsHaveAName()
+{
+    QCOMPARE(tableOf(*make())->accessibleName(), QString("Confirm"));
+    const ZrComfirmDialog untitled(QString(), 3, nullptr, 0);
+    QCOMPARE(tableOf(untitled)->accessibleName(), QString("Values"));
 }
 
 void tst_ZrComfirmDialog::aVeryLongValueStaysInsideTheDialog()

@@ -568,6 +568,8 @@ void tst_ZrMessageBox::everyPartHasAName()
 {
     const auto box = make("x");
     QCOMPARE(textOf(*box)->accessibleName(), QString("Title"));
+    const ZrMessageBox untitled(QString(), "x", 3, nullptr, 0);
+    QCOMPARE(textOf(untitled)->accessibleName(), QString("Message"));
     QCOMPARE(button(*box, "helpBtn")->accessibleName(), QString("Help"));
 }
 

@@ -17,7 +17,10 @@ private slots:
     void aMessageAsHighAsItsPlaceBeginsAtTheTop();
     void theMeasuresAreThoseOfTheFont();
     void tabLeavesTheText();
+    void aMessageOfWordsIsShownWhole_data();
+    void aMessageOfWordsIsShownWhole();
     void aVeryLongMessageSaysThatItIsCut();
+    void theWidthIsThatOfTheWholeMessage();
 
 private:
     static QRect inkOf(ZrMessageText *text);
@@ -122,6 +125,30 @@ void tst_ZrMessageText::aVeryLongMessageSaysThatItIsCut()
     text.setMessage(DialogScene::withoutBlank());
     QVERIFY(text.toPlainText().endsWith(ZrPlainText::mark()));
     QVERIFY(text.toPlainText().size() < 20000);
+}
+
+void tst_ZrMessageText::theWidthIsThatOfTheWholeMessage()
+{
+    ZrMessageText text;
+    text.setMessage(QString(3000, 'i')); // of which the first thousand are shown
+    QVERIFY(text.toPlainText().size() < 1100);
+    QCOMPARE(text.textWidthPx(), text.fontMetrics().horizontalAdvance(QString(3000, 'i')));
+}
+
+void tst_ZrMessageText::aMessageOfWordsIsShownWhole_data()
+{
+    QTest::addColumn<QString>("message");
+    QTest::newRow("a long paragraph") << QString("several words ").repeated(1000);
+    QTest::newRow("a long Chinese paragraph") << QString("价格超出当日涨跌幅限制").repeated(1000);
+    QTest::newRow("an address") << QString("see https://example.org/") + QString(200, 'a') + " for more";
+}
+
+void tst_ZrMessageText::aMessageOfWordsIsShownWhole()
+{
+    QFETCH(QString, message);
+    ZrMessageText text;
+    text.setMessage(message);
+    QCOMPARE(text.toPlainText(), message);
 }
 
 ZR_TEST_MAIN(tst_ZrMessageText)
