@@ -796,6 +796,118 @@
         <source>A field for many choices: its list has a check box in each row, and the closed field shows what is ticked.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Send the order of a very long name to the exchange of the day before yesterday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A name that is longer than its half of the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Focus in the rows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Before the first rows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asks the user to confirm a table of values before they go out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens over the main window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel the order of 1,000 at 10.25?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The exchange refused the order because its price lies outside the limits of the day, and the account has no more quantity to sell. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Focus in the text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order refused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The price lies outside the limits of the day.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Own button texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A box that tells or asks something and sizes itself to its text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The order was accepted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The order was refused.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Long text, error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A notice that closes by itself and leaves keyboard and mouse where they are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens for three seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tip</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ZrStatusLine</name>

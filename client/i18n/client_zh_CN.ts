@@ -796,6 +796,118 @@
         <source>A field for many choices: its list has a check box in each row, and the closed field shows what is ticked.</source>
         <translation>多选下拉框：列表每行一个复选框，收起时显示已勾选项。</translation>
     </message>
+    <message>
+        <source>Side</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>Send the order of a very long name to the exchange of the day before yesterday</source>
+        <translation>将名称很长的委托发送到前天的那家交易所</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>金额</translation>
+    </message>
+    <message>
+        <source>A name that is longer than its half of the table</source>
+        <translation>比表格一半还要长的名称</translation>
+    </message>
+    <message>
+        <source>Focus in the rows</source>
+        <translation>焦点在行中</translation>
+    </message>
+    <message>
+        <source>Before the first rows</source>
+        <translation>填入行之前</translation>
+    </message>
+    <message>
+        <source>Asks the user to confirm a table of values before they go out.</source>
+        <translation>发送前请用户确认一组数值。</translation>
+    </message>
+    <message>
+        <source>Opens over the main window</source>
+        <translation>在主窗口上方打开</translation>
+    </message>
+    <message>
+        <source>Cancel order</source>
+        <translation>撤单</translation>
+    </message>
+    <message>
+        <source>Cancel the order of 1,000 at 10.25?</source>
+        <translation>撤销 10.25 买入 1,000 股的委托？</translation>
+    </message>
+    <message>
+        <source>Cancel it</source>
+        <translation>撤单</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>The exchange refused the order because its price lies outside the limits of the day, and the account has no more quantity to sell. </source>
+        <translation>交易所拒绝了委托，因为价格超出当日涨跌幅限制，且账户已没有可卖数量。</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>询问</translation>
+    </message>
+    <message>
+        <source>Focus in the text</source>
+        <translation>焦点在文本中</translation>
+    </message>
+    <message>
+        <source>Order refused</source>
+        <translation>委托被拒</translation>
+    </message>
+    <message>
+        <source>The price lies outside the limits of the day.</source>
+        <translation>价格超出当日涨跌幅限制。</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>组成</translation>
+    </message>
+    <message>
+        <source>Own button texts</source>
+        <translation>自定按钮文字</translation>
+    </message>
+    <message>
+        <source>A box that tells or asks something and sizes itself to its text.</source>
+        <translation>提示或询问的消息框，大小随文本而定。</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>级别</translation>
+    </message>
+    <message>
+        <source>The order was accepted.</source>
+        <translation>委托已受理。</translation>
+    </message>
+    <message>
+        <source>The order was refused.</source>
+        <translation>委托被拒绝。</translation>
+    </message>
+    <message>
+        <source>Long text, error</source>
+        <translation>长文本，错误</translation>
+    </message>
+    <message>
+        <source>A notice that closes by itself and leaves keyboard and mouse where they are.</source>
+        <translation>自动关闭的通知，不影响键盘和鼠标。</translation>
+    </message>
+    <message>
+        <source>Opens for three seconds</source>
+        <translation>显示三秒</translation>
+    </message>
+    <message>
+        <source>Tip</source>
+        <translation>提示</translation>
+    </message>
 </context>
 <context>
     <name>ZrStatusLine</name>

@@ -46,11 +46,26 @@
         <source>value</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Values</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ZrHelpMark</name>
     <message>
         <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrLinkageCombox</name>
+    <message>
+        <source>Linkage group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linkage groups</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -81,6 +96,10 @@
     <message>
         <source>取消</source>
         <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -46,12 +46,27 @@
         <source>value</source>
         <translation>值</translation>
     </message>
+    <message>
+        <source>Values</source>
+        <translation>数值</translation>
+    </message>
 </context>
 <context>
     <name>ZrHelpMark</name>
     <message>
         <source>Help</source>
         <translation>帮助</translation>
+    </message>
+</context>
+<context>
+    <name>ZrLinkageCombox</name>
+    <message>
+        <source>Linkage group</source>
+        <translation>联动组</translation>
+    </message>
+    <message>
+        <source>Linkage groups</source>
+        <translation>联动组列表</translation>
     </message>
 </context>
 <context>
@@ -81,6 +96,10 @@
     <message>
         <source>取消</source>
         <translation>取消</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>消息</translation>
     </message>
 </context>
 <context>
