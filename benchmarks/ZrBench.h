@@ -76,3 +76,5 @@ ZrBenchCases gridPaintBenches();
 ZrBenchCases gridMemoryBenches();
 ZrBenchCases mapBenches();
 ZrBenchCases busBenches();
+ZrBenchCases editorBenches();
+ZrBenchCases comboBenches();

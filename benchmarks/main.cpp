@@ -15,7 +15,7 @@ constexpr int LeastRepetitions = 5;
 ZrBenchCases allBenches()
 {
     return gridUpdateBenches() + gridAppendBenches() + gridSortFilterBenches() + gridPaintBenches() +
-           gridMemoryBenches() + mapBenches() + busBenches();
+           gridMemoryBenches() + mapBenches() + busBenches() + editorBenches() + comboBenches();
 }
 
 // A name that is asked for whole means that row only, anything else what holds it.

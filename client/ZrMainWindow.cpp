@@ -1,5 +1,6 @@
 #include "ZrMainWindow.h"
 
+#include "showcase/ZrShowcaseDocks.h"
 #include "ZrBlotterPanel.h"
 #include "ZrBlotterToolBar.h"
 #include "ZrStatusLine.h"
@@ -9,6 +10,8 @@
 #include "zrdefine/Constants.h"
 
 #include <QtWidgets/QDockWidget>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QToolButton>
 
 ZrMainWindow::ZrMainWindow(const QStringList &skins, const QString &skin, int maxRows)
     : m_blotter(new ZrBlotterPanel(QStringLiteral(":/client/columns/blotter.xml"), this))
@@ -17,18 +20,38 @@ ZrMainWindow::ZrMainWindow(const QStringList &skins, const QString &skin, int ma
 {
     setObjectName(QStringLiteral("workstation"));
     setWindowTitle(tr("Trading workstation"));
-    auto *const dock = new QDockWidget(tr("Order blotter"), this);
-    dock->setObjectName(QStringLiteral("blotter"));
-    dock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable);
-    dock->setWidget(m_blotter);
-    m_blotter->view()->setTableViewCaption(tr("Order blotter"));
     addToolBar(m_toolBar);
-    addDockWidget(Qt::TopDockWidgetArea, dock);
+    addDocks();
+    addShowcaseButton();
     setStatusBar(m_status);
     resize(1600, 900);
     connect(m_toolBar, &ZrBlotterToolBar::signalSkinChosen, this, &ZrMainWindow::signalSkinChosen);
     ZrCore::instance()->addStyle2View(this,
                                       Constants::SKIN_SYSTEM + QStringLiteral("client/workstation.css"));
+}
+
+void ZrMainWindow::addDocks()
+{
+    auto *const dock = new QDockWidget(tr("Order blotter"), this);
+    dock->setObjectName(QStringLiteral("blotter"));
+    dock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable);
+    dock->setWidget(m_blotter);
+    m_blotter->view()->setTableViewCaption(tr("Order blotter"));
+    addDockWidget(Qt::TopDockWidgetArea, dock);
+    setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
+    m_showcase = new ZrShowcaseDocks(this, dock);
+}
+
+void ZrMainWindow::addShowcaseButton()
+{
+    auto *const button = new QToolButton(m_toolBar);
+    button->setObjectName(QStringLiteral("showcaseButton"));
+    button->setText(tr("Showcase"));
+    button->setToolTip(tr("A page for each widget, with all its states"));
+    button->setPopupMode(QToolButton::InstantPopup);
+    button->setMenu(m_showcase->makeMenu(button));
+    m_toolBar->addSeparator();
+    m_toolBar->addWidget(button);
 }
 
 void ZrMainWindow::loadSkin(const QVariant &css)

@@ -6,9 +6,10 @@
 
 class ZrBlotterPanel;
 class ZrBlotterToolBar;
+class ZrShowcaseDocks;
 class ZrStatusLine;
 
-/// The workstation's window: docks, tool bar, status bar.
+/// The workstation's window: docks, tool bar, status bar; behind the blotter a dock for each showcase page.
 ///
 /// Ownership: normal QWidget parent rules.
 /// Threads:   GUI thread only.
@@ -23,6 +24,7 @@ public:
     ZrBlotterPanel *blotter() const { return m_blotter; }
     ZrBlotterToolBar *toolBar() const { return m_toolBar; }
     ZrStatusLine *statusLine() const { return m_status; }
+    ZrShowcaseDocks *showcase() const { return m_showcase; }
 
 signals:
     void signalSkinChosen(const QString &skin);
@@ -32,7 +34,11 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void addDocks();
+    void addShowcaseButton();
+
     ZrBlotterPanel *m_blotter;
     ZrBlotterToolBar *m_toolBar;
     ZrStatusLine *m_status;
+    ZrShowcaseDocks *m_showcase = nullptr;
 };

@@ -74,6 +74,7 @@ QString ZrWorkstation::startHost()
 {
     ZrReferenceHost::Options host;
     host.configFolder = m_paths.config;
+    host.dataFolder = m_paths.data;
     host.skinRoot = m_paths.skins;
     host.skinId = m_options.skin;
     host.faults = m_options.faults;
@@ -191,6 +192,8 @@ QString ZrWorkstation::writeFiles()
         error = m_tee->finish();
     if (error.isEmpty() && !m_options.shotsFolder.isEmpty())
         error = ZrShots::write(m_window.get(), m_options.shotsFolder);
+    if (error.isEmpty() && !m_options.shotsFolder.isEmpty())
+        error = ZrShots::writePages(m_window->showcase(), m_options.shotsFolder);
     if (error.isEmpty() && !m_options.reportFile.isEmpty())
         error = m_report.write(m_options.reportFile);
     return error;

@@ -23,6 +23,7 @@ struct ZrInboxMessage;
 struct ZrWorkstationPaths
 {
     QString skins;
+    QString data; // pictures outside of any skin
     QStringList recordings;
     QString config; // empty: the user's own folder
 };

@@ -52,6 +52,7 @@ ZrWorkstationPaths findPaths()
     const QString shared = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/zrwidget");
     ZrWorkstationPaths paths;
     paths.skins = firstFolder({shared + QStringLiteral("/skin"), QStringLiteral(ZR_SOURCE_DIR "/skin")});
+    paths.data = firstFolder({shared + QStringLiteral("/data"), QStringLiteral(ZR_SOURCE_DIR "/data")});
     paths.recordings = QStringList{firstFolder(
         {shared + QStringLiteral("/recordings"), QStringLiteral(ZR_SOURCE_DIR "/client/recordings")})};
     return paths;

@@ -28,7 +28,7 @@ if(ZR_HOST STREQUAL "reference")
     set_target_properties(${zr_host_names} zrreferencehost PROPERTIES INSTALL_RPATH "$ORIGIN")
     install(TARGETS ${zr_host_names} zrreferencehost EXPORT zrwidgetTargets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
-    install(DIRECTORY ${PROJECT_SOURCE_DIR}/skin DESTINATION ${zr_data_dir} OPTIONAL)
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/skin ${PROJECT_SOURCE_DIR}/data DESTINATION ${zr_data_dir} OPTIONAL)
     if(TARGET zrworkstation)
         install(TARGETS zrworkstation RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
         set_target_properties(zrworkstation PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")

@@ -19,7 +19,7 @@ def exported(library):
     for line in text.splitlines():
         symbol = line.split(" ", 2)[-1]
         strong = line.split(" ")[1:2] and line.split(" ")[1] in "TDBRV"
-        match = re.match(r"(?:vtable for |typeinfo for )?((?:Zr|ZR|Freeze)\w+)(?:::|$)", symbol)
+        match = re.match(r"(?:vtable for |typeinfo for )?((?:Zr|ZR|Freeze|CheckBox)\w+)(?:::|$)", symbol)
         if match and (strong or symbol.startswith("vtable")):
             names.add(match.group(1))
     return names

@@ -3,6 +3,7 @@
 #include "ZrHeaderColumns.h"
 #include "ZrHeaderHost.h"
 #include "ZrHeaderView_p.h"
+#include "ZrPlainText.h"
 #include "ZrRoleKeys.h"
 #include "ZrSkinPixmap.h"
 
@@ -104,7 +105,8 @@ bool ZrHeaderSectionPainter::showsIndicator() const
 void ZrHeaderSectionPainter::drawTexts()
 {
     if (m_grouped) {
-        const QString name = value(ZrGroupNameRole).toString();
+        const QString name =
+            ZrPlainText::visiblePart(value(ZrGroupNameRole).toString(), m_layout.groupName.size());
         m_painter->save();
         m_painter->setClipRect(m_option.rect, Qt::IntersectClip);
         m_head.style()->drawItemText(m_painter, m_layout.groupName, Qt::AlignCenter, m_option.palette, true,
@@ -113,7 +115,7 @@ void ZrHeaderSectionPainter::drawTexts()
     }
     QStyleOptionHeader label = m_option;
     label.rect = m_layout.label;
-    label.text = value(Qt::DisplayRole).toString();
+    label.text = ZrPlainText::visiblePart(value(Qt::DisplayRole).toString(), label.rect.size());
     if (m_head.textElideMode() != Qt::ElideNone) {
         label.text = label.fontMetrics.elidedText(label.text, m_head.textElideMode(),
                                                   m_layout.label.width() - labelMarginsPx());

@@ -7,6 +7,7 @@
 #include "ZrHeaderSectionOption.h"
 #include "ZrHeaderSectionPainter.h"
 #include "ZrHeaderView_p.h"
+#include "ZrPlainText.h"
 
 #include <QtGui/QHoverEvent>
 #include <QtGui/QPainter>
@@ -132,6 +133,20 @@ bool ZrHeaderView::isTableHead() const
 {
     const ZrHeaderHost *const host = ZrHeaderHost::of(this);
     return host && host->headKind() == ZrHeaderHost::Kind::Table;
+}
+
+// The base measures a text to its end, however long; no head is as wide as that.
+QSize ZrHeaderView::sectionSizeFromContents(int section) const
+{
+    const QString text =
+        model() ? model()->headerData(section, orientation(), Qt::DisplayRole).toString() : QString();
+    if (text.size() <= ZrPlainText::captionBound.characters)
+        return QHeaderView::sectionSizeFromContents(section);
+    QStyleOptionHeader option;
+    initStyleOption(&option);
+    option.section = section;
+    option.text = ZrPlainText::beginning(text, ZrPlainText::captionBound);
+    return style()->sizeFromContents(QStyle::CT_HeaderSection, &option, QSize(), this);
 }
 
 void ZrHeaderView::paintSection(QPainter *painter, const QRect &rect, int section) const

@@ -76,6 +76,7 @@ public slots:
     void setModel(QAbstractItemModel *model) override;
 
 protected:
+    QSize sectionSizeFromContents(int section) const override;
     void paintSection(QPainter *painter, const QRect &rect, int section) const override;
     void paintHeaderSection(QPainter *painter, const QRect &rect, int section, bool dragging) const;
     bool eventFilter(QObject *watched, QEvent *event) override;

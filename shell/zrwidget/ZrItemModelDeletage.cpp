@@ -1,6 +1,7 @@
 #include "ZrItemModelDeletage.h"
 
 #include "ZrItemModelDeletage_p.h"
+#include "ZrPlainText.h"
 #include "ZrRoleKeys.h"
 #include "ZrSkinPixmap.h"
 #include "ZrTableModel.h"
@@ -37,6 +38,7 @@ void ZrItemModelDeletage::paint(QPainter *painter, const QStyleOptionViewItem &o
 {
     QStyleOptionViewItem item = option;
     initStyleOption(&item, index);
+    item.text = ZrPlainText::visiblePart(item.text, item.rect.size());
     // No focus frame: in a grid of prices it would look like a mark of the cell.
     item.state &= ~QStyle::State_HasFocus;
     drawItem(painter, &item);

@@ -1,5 +1,6 @@
 #include "ZrQuietPlatform.h"
 #include "ZrShots.h"
+#include "ZrShowcaseDocks.h"
 #include "ZrTestMain.h"
 
 #include <QtCore/QTemporaryDir>
@@ -15,6 +16,7 @@ private slots:
     void thereIsOneOfTheWindowAndOneOfEachDock();
     void aSecondRunReplacesTheFirst();
     void whatCannotBeWrittenIsOneSentence();
+    void eachPageIsShownAtItsWholeHeight();
 
 private:
     void addDock(const char *name, const QColor &colour, QSize size);
@@ -85,6 +87,28 @@ void tst_ZrShots::whatCannotBeWrittenIsOneSentence()
     QVERIFY(QDir(m_folder.path()).mkpath(QStringLiteral("taken/dock-orders.png")));
     QCOMPARE(ZrShots::write(&m_window, folder("taken")),
              QStringLiteral("the picture %1 cannot be written.").arg(folder("taken/dock-orders.png")));
+}
+
+void tst_ZrShots::eachPageIsShownAtItsWholeHeight()
+{
+    auto *const front = m_window.findChild<QDockWidget *>(QStringLiteral("orders"));
+    ZrShowcaseDocks docks(&m_window, front);
+    m_window.resize(700, 300);
+    QCOMPARE(ZrShots::writePages(&docks, folder("pages")), QString());
+    QStringList expected;
+    const QStringList ids = docks.ids();
+    for (const QString &id : ids)
+        expected.append(QStringLiteral("showcase-%1.png").arg(id));
+    expected.sort();
+    QCOMPARE(QDir(folder("pages")).entryList(QDir::Files, QDir::Name), expected);
+    const QImage picture(folder("pages/showcase-table-view.png"));
+    QVERIFY(picture.height() > m_window.height());
+    // A folder stands where a picture belongs.
+    QVERIFY(QDir(m_folder.path()).mkpath(QStringLiteral("full/showcase-table-view.png")));
+    QCOMPARE(ZrShots::writePages(&docks, folder("full")),
+             QStringLiteral("the picture %1 cannot be written.").arg(folder("full/showcase-table-view.png")));
+    QCOMPARE(ZrShots::writePages(&docks, folder("file")),
+             QStringLiteral("the folder %1 cannot be made.").arg(folder("file")));
 }
 
 ZR_TEST_MAIN(tst_ZrShots)

@@ -127,6 +127,7 @@ void tst_ZrWorkstation::picturesAndReportAreWritten()
     QCOMPARE(workstation.finish(), QString());
     QVERIFY(QImage(options.shotsFolder + QStringLiteral("/window.png")).width() >= 1000);
     QVERIFY(!QImage(options.shotsFolder + QStringLiteral("/dock-blotter.png")).isNull());
+    QVERIFY(!QImage(options.shotsFolder + QStringLiteral("/showcase-table-view.png")).isNull());
     QVERIFY(QFile::exists(options.reportFile));
     QVERIFY(QFile::exists(options.recordFile));
 }

@@ -131,6 +131,55 @@ class Rows(Planted):
         self.expect("rows", "no row for ZrLow", "ZrGone has a row but is no unit", "ZrHigh: layer draw", "tst_zrform.cpp does not exist")
 
 
+class Texts(Planted):
+    """One class with two texts, of which the files hold what a test says."""
+    SOURCE = """class ZrLow { void f() { tr("Buy"); tr("\u786e\u8ba4"); } };\n"""
+    GOOD = {"en": {"Buy": "", "\u786e\u8ba4": "OK"}, "zh_CN": {"Buy": "\u4e70\u5165", "\u786e\u8ba4": "\u786e\u8ba4"}}
+
+    def setUp(self):
+        super().setUp()
+        self.write("shell/zrwidget/ZrLow.cpp", self.SOURCE)
+        self.write("client/main.cpp", "\n")
+        self.plant(self.GOOD)
+
+    def plant(self, texts):
+        for language, entries in texts.items():
+            self.file("client/i18n/client", language, {})
+            self.file("shell/zrwidget/i18n/zrwidget", language, entries)
+
+    def file(self, stem, language, entries):
+        messages = "".join(
+            f"<message><source>{source}</source><translation>{text}</translation></message>"
+            for source, text in entries.items())
+        context = f"<context><name>ZrLow</name>{messages}</context>" if entries else ""
+        self.write(f"{stem}_{language}.ts", f'<?xml version="1.0" encoding="utf-8"?><!DOCTYPE TS>'
+                   f'<TS version="2.1" language="{language}" sourcelanguage="en">{context}</TS>\n')
+
+    def changed(self, language, **changes):
+        texts = {key: dict(entries) for key, entries in self.GOOD.items()}
+        texts[language].update(changes)
+        self.plant(texts)
+
+    def test_good(self):
+        self.expect("texts")
+
+    def test_missing(self):
+        self.plant({**self.GOOD, "zh_CN": {"\u786e\u8ba4": "\u786e\u8ba4"}})
+        self.expect("texts", 'zh_CN.ts: misses "Buy" of ZrLow')
+
+    def test_no_longer_used(self):
+        self.changed("en", Sell="")
+        self.expect("texts", 'en.ts: "Sell" of ZrLow is in no source')
+
+    def test_not_translated(self):
+        self.changed("zh_CN", Buy="")
+        self.expect("texts", 'zh_CN.ts: "Buy" of ZrLow has no translation')
+
+    def test_chinese_in_english(self):
+        self.changed("en", **{"\u786e\u8ba4": ""})
+        self.expect("texts", "has no translation")
+
+
 class Report(unittest.TestCase):
     GOOD = {"seconds": 10.0, "messages_in": 5, "messages_lost": 0, "rows": 1, "updates_applied": 4, "frames": 3, "cpu_seconds": 1,
             "rss_mb": 90, "feed_to_model_us": {"p50": 1, "p99": 2, "max": 3}, "feed_to_pixel_us": {"p50": 1, "p99": 2, "max": 3}}

@@ -29,9 +29,108 @@
     </message>
 </context>
 <context>
+    <name>ZrComfirmDialog</name>
+    <message>
+        <source>确认</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrHelpMark</name>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrLinkageCombox</name>
+    <message>
+        <source>Linkage group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linkage groups</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrLoadingFrame</name>
+    <message>
+        <source>Loading</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrLogWidget</name>
+    <message>
+        <source>Waiting for data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrMessageBox</name>
+    <message>
+        <source>确认</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrMultiComboBox</name>
+    <message>
+        <source>Selected items</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrMultiComboList</name>
+    <message>
+        <source>Choices</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ZrPresenterClass</name>
     <message>
         <source>request timeout</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrShortCutKeyWidget</name>
+    <message>
+        <source>直接按键盘进行设置</source>
+        <translation>Press the keys</translation>
+    </message>
+    <message>
+        <source>Shortcut key</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -50,6 +149,17 @@
     <name>ZrTableView</name>
     <message>
         <source>Summary of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrToastDialog</name>
+    <message>
+        <source>Notice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -29,10 +29,109 @@
     </message>
 </context>
 <context>
+    <name>ZrComfirmDialog</name>
+    <message>
+        <source>确认</source>
+        <translation>确认</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>数值</translation>
+    </message>
+</context>
+<context>
+    <name>ZrHelpMark</name>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+</context>
+<context>
+    <name>ZrLinkageCombox</name>
+    <message>
+        <source>Linkage group</source>
+        <translation>联动组</translation>
+    </message>
+    <message>
+        <source>Linkage groups</source>
+        <translation>联动组列表</translation>
+    </message>
+</context>
+<context>
+    <name>ZrLoadingFrame</name>
+    <message>
+        <source>Loading</source>
+        <translation>正在加载</translation>
+    </message>
+</context>
+<context>
+    <name>ZrLogWidget</name>
+    <message>
+        <source>Waiting for data</source>
+        <translation>正在等待数据</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>日志</translation>
+    </message>
+</context>
+<context>
+    <name>ZrMessageBox</name>
+    <message>
+        <source>确认</source>
+        <translation>确认</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>消息</translation>
+    </message>
+</context>
+<context>
+    <name>ZrMultiComboBox</name>
+    <message>
+        <source>Selected items</source>
+        <translation>已选项</translation>
+    </message>
+</context>
+<context>
+    <name>ZrMultiComboList</name>
+    <message>
+        <source>Choices</source>
+        <translation>选项</translation>
+    </message>
+</context>
+<context>
     <name>ZrPresenterClass</name>
     <message>
         <source>request timeout</source>
         <translation>请求超时</translation>
+    </message>
+</context>
+<context>
+    <name>ZrShortCutKeyWidget</name>
+    <message>
+        <source>直接按键盘进行设置</source>
+        <translation>直接按键盘进行设置</translation>
+    </message>
+    <message>
+        <source>Shortcut key</source>
+        <translation>快捷键</translation>
     </message>
 </context>
 <context>
@@ -51,6 +150,17 @@
     <message>
         <source>Summary of %1</source>
         <translation>%1合计</translation>
+    </message>
+</context>
+<context>
+    <name>ZrToastDialog</name>
+    <message>
+        <source>Notice</source>
+        <translation>通知</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
     </message>
 </context>
 </TS>
