@@ -9,7 +9,6 @@
 #include "zrcore/ZrCore.h"
 #include "zrdefine/Constants.h"
 
-#include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QScrollBar>
@@ -43,7 +42,8 @@ ZrMultiComboBox::ZrMultiComboBox(QWidget *parent)
 ZrMultiComboBox::~ZrMultiComboBox()
 {
     // The base's end changes the editor once more.
-    disconnect(m_edit, nullptr, this, nullptr);
+    if (m_edit)
+        disconnect(m_edit, nullptr, this, nullptr);
 }
 
 void ZrMultiComboBox::addItem(const QString &text, const QVariant &data)
@@ -71,7 +71,8 @@ void ZrMultiComboBox::clear()
 {
     m_list->clear();
     m_selectedText.clear();
-    m_edit->clear();
+    if (m_edit)
+        m_edit->clear();
     QComboBox::clear();
 }
 
@@ -97,17 +98,32 @@ QString ZrMultiComboBox::itemText(int index) const
 
 void ZrMultiComboBox::selectIndex(int index, bool selected)
 {
+    if (setTicked(index, selected))
+        packShowText();
+}
+
+void ZrMultiComboBox::selectIndexes(const QList<int> &indexes, bool selected)
+{
+    bool isChanged = false;
+    for (const int index : indexes)
+        isChanged = setTicked(index, selected) || isChanged;
+    if (isChanged)
+        packShowText();
+}
+
+bool ZrMultiComboBox::setTicked(int index, bool ticked)
+{
     const QPointer<CheckBoxInMultiBox> box = m_list->boxAt(index);
-    if (!box || box->isChecked() == selected)
-        return;
+    if (!box || box->isChecked() == ticked)
+        return false;
     // Others may listen to the box too, and hear of it.
     disconnect(box, &QCheckBox::stateChanged, this, &ZrMultiComboBox::stateChanged);
-    box->setChecked(selected);
+    box->setChecked(ticked);
     if (m_list->rowOf(box) < 0) // one of them removed the row
-        return;
-    box->setCheckState(selected ? Qt::Checked : Qt::Unchecked);
+        return true;
+    box->setCheckState(ticked ? Qt::Checked : Qt::Unchecked);
     listenTo(box);
-    packShowText();
+    return true;
 }
 
 bool ZrMultiComboBox::isIndexSelected(int index) const
@@ -132,11 +148,7 @@ QList<QVariant> ZrMultiComboBox::getCurrentSelectedIndexData() const
 
 QList<QString> ZrMultiComboBox::getCurrentSelectedIndexText() const
 {
-    QList<QString> texts;
-    const QList<int> rows = m_list->tickedRows();
-    for (const int row : rows)
-        texts.append(itemText(row));
-    return texts;
+    return m_list->tickedTexts();
 }
 
 void ZrMultiComboBox::setNoSelectedText(const QString &text)
@@ -202,8 +214,10 @@ void ZrMultiComboBox::stateChanged(int)
 
 void ZrMultiComboBox::packShowText()
 {
-    const QStringList texts = getCurrentSelectedIndexText();
+    const QStringList texts = m_list->tickedTexts();
     m_selectedText = texts.join(QLatin1Char(';'));
+    if (!m_edit)
+        return;
     // Blocked: the change would call this again.
     const QSignalBlocker blocker(m_edit);
     if (texts.isEmpty()) {

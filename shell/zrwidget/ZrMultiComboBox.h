@@ -3,6 +3,7 @@
 #include "zrskin/IZrSkin.h"
 #include "zrwidget_global.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QVariant>
 #include <QtWidgets/QComboBox>
 
@@ -40,6 +41,8 @@ public:
 
     /// Ticks or unticks a row without a signal.
     void selectIndex(int index, bool selected);
+    /// The same for many rows: the shown text is joined once, not once for each.
+    void selectIndexes(const QList<int> &indexes, bool selected);
     bool isIndexSelected(int index) const;
     /// The ticked rows in ascending order, their data, their texts.
     QList<int> getCurrentSelectedIndex() const;
@@ -72,9 +75,11 @@ private slots:
 private:
     Q_DISABLE_COPY(ZrMultiComboBox)
     void listenTo(const CheckBoxInMultiBox *box);
+    /// True when the row's state was another one.
+    bool setTicked(int index, bool ticked);
 
-    ZrMultiComboList *m_list; // our child through the base: model and view
-    ZrMultiComboEdit *m_edit; // our child: the editor, read-only
-    QString m_selectedText;   // the joined texts
+    ZrMultiComboList *m_list;          // our child through the base: model and view
+    QPointer<ZrMultiComboEdit> m_edit; // our child: the editor; the base may end it
+    QString m_selectedText;            // the joined texts
     QString m_noSelectedText;
 };

@@ -84,6 +84,18 @@ QList<int> ZrMultiComboList::tickedRows() const
     return rows;
 }
 
+QStringList ZrMultiComboList::tickedTexts() const
+{
+    QStringList texts;
+    const int rowCount = count();
+    for (int row = 0; row < rowCount; ++row) {
+        const ZrMultiComboItem *const found = ZrMultiComboItem::of(item(row));
+        if (found && found->isTicked())
+            texts.append(found->text());
+    }
+    return texts;
+}
+
 QString ZrMultiComboList::textAt(int row) const
 {
     const QListWidgetItem *const found = item(row);

@@ -34,6 +34,8 @@ public:
     /// The row of a check box, -1 for anything else.
     int rowOf(const QObject *box) const;
     QList<int> tickedRows() const;
+    /// The texts of the ticked rows, in the order of rows, in one pass.
+    QStringList tickedTexts() const;
     QString textAt(int row) const;
     /// Toggles the current row as a click on it does.
     void clickCurrent();

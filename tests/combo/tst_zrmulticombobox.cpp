@@ -36,6 +36,7 @@ private slots:
     void selectingTellsNobodyButListenersOfTheBox();
     void selectingWhatIsSelectedDoesNotEvenPack();
     void selectingAndUnselecting();
+    void manyAreSelectedWithOnePacking();
     void theUserIsHeardAfterAProgramSelected();
 
     // --- selecting by the user ---
@@ -312,6 +313,31 @@ void tst_ZrMultiComboBox::selectingAndUnselecting()
     QVERIFY(!scene.combo()->isIndexSelected(2));
     QCOMPARE(scene.box(2)->checkState(), Qt::Unchecked);
     QCOMPARE(scene.shown(), QString());
+}
+
+void tst_ZrMultiComboBox::manyAreSelectedWithOnePacking()
+{
+    ComboScene scene(100);
+    ZrMultiComboBox *const combo = scene.combo();
+    QSignalSpy changed(combo, &ZrMultiComboBox::signalCurrentSelectedChanged);
+    QSignalSpy clicked(combo, &ZrMultiComboBox::signalIndexClicked);
+    QStringList shownMeanwhile;
+    for (const int row : {3, 70})
+        connect(scene.box(row), &QCheckBox::stateChanged, this,
+                [&] { shownMeanwhile.append(scene.shown()); });
+    combo->selectIndexes({70, -1, 3, 100, 3}, true);
+    QCOMPARE(scene.shown(), QStringLiteral("r3;r70"));
+    QCOMPARE(shownMeanwhile, QStringList({QString(), QString()}));
+    QCOMPARE(changed.count() + clicked.count(), 0);
+    combo->selectIndexes({3, 4}, false);
+    QCOMPARE(scene.shown(), QStringLiteral("r70"));
+    {
+        const QSignalBlocker blocker(scene.edit());
+        scene.edit()->setText(QStringLiteral("untouched"));
+    }
+    combo->selectIndexes({70}, true);
+    combo->selectIndexes({}, true);
+    QCOMPARE(scene.shown(), QStringLiteral("untouched"));
 }
 
 void tst_ZrMultiComboBox::theUserIsHeardAfterAProgramSelected()

@@ -18,6 +18,7 @@ private slots:
     void endingTheBoxWhileOpen();
     void endingTheWindowWhileOpen();
     void aBoxThatWasRemovedIsNoRowAnymore();
+    void withoutItsEditorItStillKnowsItsRows();
 };
 
 namespace {
@@ -194,6 +195,21 @@ void tst_ZrMultiComboEnds::aBoxThatWasRemovedIsNoRowAnymore()
     removed->setChecked(true); // it lives until the event loop turns
     QCOMPARE(clicked.count(), 0);
     QCOMPARE(scene.shown(), QString());
+}
+
+void tst_ZrMultiComboEnds::withoutItsEditorItStillKnowsItsRows()
+{
+    ComboScene scene(3);
+    scene.combo()->setEditable(false);
+    scene.combo()->selectIndex(1, true);
+    QCOMPARE(scene.combo()->getCurrentSelectedIndex(), QList<int>{1});
+    scene.combo()->showPopup();
+    scene.click(2);
+    QCOMPARE(scene.combo()->getCurrentSelectedIndexText(), QStringList({"r1", "r2"}));
+    scene.combo()->hidePopup();
+    scene.combo()->removeItem(1);
+    scene.combo()->clear();
+    QCOMPARE(scene.combo()->count(), 0);
 }
 
 ZR_TEST_MAIN(tst_ZrMultiComboEnds)

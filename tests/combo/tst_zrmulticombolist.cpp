@@ -74,6 +74,7 @@ private slots:
         QCOMPARE(list.rowOf(last), 2);
         QCOMPARE(list.rowOf(gone), -1); // it lives until the event loop turns
         QCOMPARE(list.tickedRows(), QList<int>{2});
+        QCOMPARE(list.tickedTexts(), QStringList(QStringLiteral("t3")));
     }
 
     void aCheckBoxThatEndsAloneLeavesAPlainRow()

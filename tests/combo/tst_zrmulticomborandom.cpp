@@ -77,6 +77,19 @@ private:
             m_rows[row].ticked = on;
     }
 
+    void selectSome(ComboScene *scene)
+    {
+        const bool on = below(2) == 1;
+        QList<int> rows;
+        for (int i = below(8); i >= 0; --i)
+            rows.append(below(m_rows.size() + 2) - 1);
+        scene->combo()->selectIndexes(rows, on);
+        for (const int row : qAsConst(rows)) {
+            if (row >= 0 && row < m_rows.size())
+                m_rows[row].ticked = on;
+        }
+    }
+
     void click(ComboScene *scene)
     {
         if (m_rows.isEmpty())
@@ -121,6 +134,8 @@ private:
             scene->edit()->setText(QStringLiteral("foreign"));
             break;
         case 10:
+            selectSome(scene);
+            break;
         case 11:
         case 12:
         case 13:
