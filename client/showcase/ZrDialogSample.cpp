@@ -1,6 +1,7 @@
 #include "ZrDialogSample.h"
 
-#include <QtCore/QEvent>
+#include <QtCore/QCoreApplication>
+#include <QtGui/QMouseEvent>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
@@ -20,8 +21,13 @@ public:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (event->type() == QEvent::Paint)
+        if (event->type() == QEvent::Paint) {
             m_widget->setAttribute(Qt::WA_UnderMouse);
+            // A button also remembers where it saw the mouse last.
+            QMouseEvent move(QEvent::MouseMove, m_widget->rect().center(), Qt::NoButton, Qt::NoButton,
+                             Qt::NoModifier);
+            QCoreApplication::sendEvent(m_widget, &move);
+        }
         return QObject::eventFilter(watched, event);
     }
 

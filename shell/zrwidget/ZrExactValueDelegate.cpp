@@ -8,7 +8,7 @@
 
 namespace {
 // No row is as wide; more would only cost time.
-constexpr ZrPlainText::Bound rowBound{1000, std::numeric_limits<int>::max(), 1000};
+constexpr ZrPlainText::Bound rowBound{400, std::numeric_limits<int>::max(), 400};
 } // namespace
 
 QString ZrExactValueDelegate::displayText(const QVariant &value, const QLocale &locale) const

@@ -10,7 +10,9 @@
 /// Units:     logical px.
 /// Ownership: normal QWidget parent rules.
 /// Threads:   GUI thread only.
-/// Errors:    none; a text beyond ZrPlainText's bound is cut and says so.
+/// Errors:    none. A text beyond 4,000 characters or 500 lines is cut and says so; a line without any place
+/// to
+///            break is cut after 1,000.
 class ZRWIDGET_PRIVATE_EXPORT ZrMessageText : public QTextEdit
 {
     Q_OBJECT
