@@ -126,10 +126,10 @@ ZrBenchCase besidePlain(const QString &name, const OurMaker &fixture, const OurM
 }
 
 ZrBenchCase filtered(const QString &name, const OurMaker &fixture, const OurMaker &plain,
-                     const PeerMaker &proxy)
+                     const PeerMaker &proxy, double limitReach)
 {
     const ZrBenchRow row = {
-        name, Unit, true, ProxyName, "grid/update_single of so many rows", ZrBenchRow::None, 0.6};
+        name, Unit, true, ProxyName, "grid/update_single of so many rows", ZrBenchRow::None, limitReach};
     return {row, [=] {
                 const auto ours = fixture();
                 const auto peer = proxy();
@@ -178,10 +178,13 @@ ZrBenchCases gridUpdateBenches()
             return ZrBenchSides{
                 [=] { return large->ratePerSecond(true); }, {}, [=] { return small->ratePerSecond(true); }};
         }};
+    // No bound beside single updates at 10,000 rows: there the rows lie in the cache, and what is left is the
+    // paint that rows cause by coming and going.
     return {single,
             batch,
-            filtered("grid/update_filtered", filteredLarge, plain, filteredPeerMaker(ZrBenchData::Rows)),
-            filtered("grid/update_filtered_10k", filteredSmall, plainSmall, filteredPeerMaker(SmallRows)),
+            filtered("grid/update_filtered", filteredLarge, plain, filteredPeerMaker(ZrBenchData::Rows), 0.6),
+            filtered("grid/update_filtered_10k", filteredSmall, plainSmall, filteredPeerMaker(SmallRows),
+                     ZrBenchRow::None),
             sizes,
             besidePlain("grid/update_with_summary", summed, plain),
             besidePlain("grid/update_with_checks", checked, plain)};

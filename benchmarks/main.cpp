@@ -7,6 +7,8 @@
 #include <QtCore/QTextStream>
 #include <QtWidgets/QApplication>
 
+#include <algorithm>
+
 namespace {
 constexpr int LeastRepetitions = 5;
 
@@ -17,15 +19,24 @@ ZrBenchCases allBenches()
 }
 
 // A name that is asked for whole means that row only, anything else what holds it.
+bool isChosen(const ZrBenchCases &all, const QString &name, const QString &filter)
+{
+    const bool isWhole = std::any_of(all.cbegin(), all.cend(), [&filter](const ZrBenchCase &benchCase) {
+        return benchCase.row.name == filter;
+    });
+    return isWhole ? name == filter : name.contains(filter);
+}
+
 ZrBenchCases chosenBenches(const QStringList &filters)
 {
     ZrBenchCases chosen;
     const ZrBenchCases all = allBenches();
     for (const ZrBenchCase &benchCase : all) {
-        bool isChosen = filters.isEmpty();
-        for (const QString &filter : filters)
-            isChosen = isChosen || benchCase.row.name.contains(filter);
-        if (isChosen)
+        const bool isAny =
+            std::any_of(filters.cbegin(), filters.cend(), [&all, &benchCase](const QString &filter) {
+                return isChosen(all, benchCase.row.name, filter);
+            });
+        if (filters.isEmpty() || isAny)
             chosen.append(benchCase);
     }
     return chosen;

@@ -179,6 +179,18 @@ void ZrHeaderView::paintHeaderSection(QPainter *painter, const QRect &rect, int 
     ZrHeaderSectionPainter(painter, *this, *d, option, dragging).paint();
 }
 
+void ZrHeaderView::setModel(QAbstractItemModel *newModel)
+{
+    QHeaderView::setModel(newModel);
+    if (!newModel || orientation() != Qt::Horizontal)
+        return;
+    // What a view does for its editors and its current cell, of which a head has none: each row that comes or
+    // goes would pay for it.
+    disconnect(newModel, &QAbstractItemModel::rowsAboutToBeRemoved, this, nullptr);
+    disconnect(newModel, &QAbstractItemModel::rowsRemoved, this, nullptr);
+    disconnect(newModel, &QAbstractItemModel::rowsInserted, this, nullptr);
+}
+
 bool ZrHeaderView::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == this)

@@ -73,6 +73,8 @@ public slots:
     /// A column's filter popup has a new choice; the view puts it into effect.
     void slotFilterStatusChanged();
 
+    void setModel(QAbstractItemModel *model) override;
+
 protected:
     QSize sectionSizeFromContents(int section) const override;
     void paintSection(QPainter *painter, const QRect &rect, int section) const override;

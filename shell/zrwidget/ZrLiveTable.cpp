@@ -47,13 +47,13 @@ ZrLiveTable::ZrLiveTable(QWidget *parent)
     : QTableView(parent)
     , m_rowHead(new ZrRowHeader(this))
 {
+    m_rowHead->setTellsOnce(true);
     setVerticalHeader(m_rowHead);
 }
 
 bool ZrLiveTable::isInSight(int row) const
 {
-    // A caller may have set a head of his own.
-    return verticalHeader() != m_rowHead || m_rowHead->isInSight(row, viewport()->height());
+    return !m_rowHead || m_rowHead->isInSight(row, viewport()->height());
 }
 
 void ZrLiveTable::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
@@ -92,10 +92,17 @@ void ZrLiveTable::reset()
 {
     const QVector<int> *const rows = touchedRows(model());
     // A widget over a cell goes with the reset, and what it covered has to be painted.
-    if (rows && verticalHeader() == m_rowHead && viewport()->children().isEmpty())
+    if (rows && m_rowHead && viewport()->children().isEmpty())
         resetInPlace(*rows);
     else
         QTableView::reset();
+}
+
+void ZrLiveTable::doItemsLayout()
+{
+    if (m_rowHead)
+        m_rowHead->setLaidOut();
+    QTableView::doItemsLayout();
 }
 
 void ZrLiveTable::resetInPlace(const QVector<int> &touchedRows)

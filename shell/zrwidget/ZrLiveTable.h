@@ -2,6 +2,7 @@
 
 #include "zrwidget_global.h"
 
+#include <QtCore/QPointer>
 #include <QtGui/QRegion>
 #include <QtWidgets/QTableView>
 
@@ -25,6 +26,7 @@ public:
 
     void setModel(QAbstractItemModel *model) override;
     void reset() override;
+    void doItemsLayout() override;
 
 protected:
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
@@ -37,6 +39,6 @@ private:
 
     void noteMarks();
 
-    ZrRowHeader *m_rowHead;
+    QPointer<ZrRowHeader> m_rowHead; // a caller may set another head, which ends this one
     QRegion m_marked; // of selection and current row before the reset under way, which ends both
 };

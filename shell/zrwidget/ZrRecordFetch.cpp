@@ -94,6 +94,28 @@ void ZrRecordFetch::cellsOf(const RecordData &stored, const RecordData &incoming
     readCells(cells);
 }
 
+void ZrRecordFetch::keys(const RecordDataList &records, int first, const QList<int> &keyColumns)
+{
+    const int last = qMin(first + BlockSize, records.size()) - 1;
+    int sum = 0;
+    for (int i = first; i <= last; ++i)
+        sum += records.at(i).size();
+    for (int i = first; i <= last; ++i)
+        sum += records.at(i).isEmpty() ? 0 : records.at(i).firstKey();
+    for (int i = first; i <= last; ++i)
+        sum += records.at(i).isEmpty() ? 0 : records.at(i).lastKey();
+    Cells cells;
+    for (int i = first; i <= last; ++i) {
+        for (const int column : keyColumns) {
+            const auto cell = records.at(i).constFind(column);
+            if (cell != records.at(i).constEnd())
+                cells.append(&*cell);
+        }
+    }
+    keep(sum);
+    readCells(cells);
+}
+
 void ZrRecordFetch::block(const RecordDataList &records, int first, const RecordDataList &rows,
                           const ZrTableKeyIndex &index, const QList<int> &keyColumns)
 {
@@ -112,6 +134,7 @@ void ZrRecordFetch::front(const RecordDataList &rows, const ZrTableKeyIndex &ind
                           const QList<int> &keyColumns)
 {
     const int last = qMin(BlockSize, rows.size()) - 1;
+    keys(rows, 0, keyColumns);
     int sum = 0;
     for (int i = 0; i <= last; ++i)
         sum += index.row(ZrTableKeyIndex::makeKey(rows.at(i), keyColumns));

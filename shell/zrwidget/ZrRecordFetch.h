@@ -20,6 +20,9 @@ constexpr int BlockSize = 16;
 /// The cells of a stored record that an incoming one names.
 ZRWIDGET_PRIVATE_EXPORT void cellsOf(const RecordData &stored, const RecordData &incoming);
 
+/// What `BlockSize` records from `first` on show of their keys and columns.
+ZRWIDGET_PRIVATE_EXPORT void keys(const RecordDataList &records, int first, const QList<int> &keyColumns);
+
 /// `BlockSize` records of a batch from `first` on, and what they change in `rows`.
 ZRWIDGET_PRIVATE_EXPORT void block(const RecordDataList &records, int first, const RecordDataList &rows,
                                    const ZrTableKeyIndex &index, const QList<int> &keyColumns);

@@ -19,12 +19,11 @@ void ZrRowHeader::setModel(QAbstractItemModel *newModel)
     QHeaderView::setModel(newModel);
     if (!newModel)
         return;
-    // By name, since the base head's slots are private or protected; they are called below where they are
-    // needed.
-    disconnect(newModel, SIGNAL(rowsRemoved(QModelIndex, int, int)), this,
-               SLOT(_q_sectionsRemoved(QModelIndex, int, int)));
-    disconnect(newModel, SIGNAL(rowsInserted(QModelIndex, int, int)), this,
-               SLOT(sectionsInserted(QModelIndex, int, int)));
+    // The base head's slots are private or protected; they are called below where they are needed. The others
+    // are what a view does for its editors and its current cell, of which a head has none.
+    disconnect(newModel, &QAbstractItemModel::rowsAboutToBeRemoved, this, nullptr);
+    disconnect(newModel, &QAbstractItemModel::rowsRemoved, this, nullptr);
+    disconnect(newModel, &QAbstractItemModel::rowsInserted, this, nullptr);
     connect(newModel, &QAbstractItemModel::rowsRemoved, this, &ZrRowHeader::followRemoval);
     connect(newModel, &QAbstractItemModel::rowsInserted, this, &ZrRowHeader::followInsertion);
 }
@@ -83,7 +82,9 @@ bool ZrRowHeader::isInSight(int row, int heightPx) const
 void ZrRowHeader::owe()
 {
     // The rows under the sections are others now: the table lays out and paints anew, once for all of them.
-    emit sectionCountChanged(count(), count());
+    if (!m_isTold)
+        emit sectionCountChanged(count(), count());
+    m_isTold = m_tellsOnce;
     if (m_isOwing)
         return;
     m_isOwing = true;

@@ -28,6 +28,10 @@ public:
     /// out would cost more than it saves.
     bool isInSight(int row, int heightPx) const;
 
+    /// For a table that says when it has laid out: until then it is told of owed rows but once.
+    void setTellsOnce(bool once) { m_tellsOnce = once; }
+    void setLaidOut() { m_isTold = false; }
+
 private:
     void followRemoval(const QModelIndex &parent, int first, int last);
     void followInsertion(const QModelIndex &parent, int first, int last);
@@ -38,4 +42,6 @@ private:
 
     bool m_hasOwnSizes = false; // some row had another height than the default one
     bool m_isOwing = false;     // settle() is under way
+    bool m_tellsOnce = false;
+    bool m_isTold = false; // the table knows that it has to lay out
 };

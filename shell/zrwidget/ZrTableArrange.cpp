@@ -24,7 +24,7 @@ void ZrTableArrange::sort(int section, Qt::SortOrder order)
 {
     if (section < 0 || section >= m_fields.headList.size() || !isSortable(section))
         return;
-    m_fields.sortColumn = m_fields.headList.at(section).value(HEAD_COLUMNINDEX).toInt();
+    m_fields.sortColumn = m_fields.logicalColumnAt(section);
     m_fields.sortOrder = order;
     const QString current = m_fields.currentRowKey();
     const QList<QPair<int, Qt::SortOrder>> keys{{m_fields.sortColumn, order}};

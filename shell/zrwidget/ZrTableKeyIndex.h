@@ -26,6 +26,7 @@ public:
     void markStale() { m_exact = false; }
 
     void clear();
+    void reserve(int rows) { m_numbers.reserve(rows); }
     /// Counts all rows anew; a key met twice keeps the later row, an empty one none.
     void rebuild(const RecordDataList &rows, const QList<int> &keyColumns);
     void enter(const QString &key, int row);

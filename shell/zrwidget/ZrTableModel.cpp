@@ -228,8 +228,7 @@ QVariant ZrTableModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid() || index.column() >= d->headList.size())
         return QVariant();
-    const int logicalColumn = d->headList.at(index.column()).value(HEAD_COLUMNINDEX).toInt();
-    return getIndexData(index.row(), logicalColumn, role);
+    return getIndexData(index.row(), d->logicalColumnAt(index.column()), role);
 }
 
 QVariant ZrTableModel::headerData(int section, Qt::Orientation orientation, int role) const

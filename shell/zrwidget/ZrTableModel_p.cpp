@@ -29,6 +29,18 @@ QTableView *ZrTableModelPrivate::parentView() const
     return qobject_cast<QTableView *>(model->QObject::parent());
 }
 
+// The copy of the heads shares their data until somebody writes to them.
+int ZrTableModelPrivate::logicalColumnAt(int section) const
+{
+    if (!m_readHeads.isSharedWith(headList)) {
+        m_readHeads = headList;
+        m_readColumns.clear();
+        for (const auto &head : headList)
+            m_readColumns.append(head.value(HEAD_COLUMNINDEX).toInt());
+    }
+    return m_readColumns.at(section);
+}
+
 int ZrTableModelPrivate::modelRowAt(int viewRow) const
 {
     int row = viewRow;

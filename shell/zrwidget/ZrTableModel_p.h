@@ -88,6 +88,8 @@ public:
     /// Pseudo-columns in front of the caller's: view column = logical column + offset.
     int columnOffset() const override { return (checkBoxShown ? 1 : 0) + (hasSerialColumn() ? 1 : 0); }
     bool hasSerialColumn() const { return serialOrder >= ZrViewModel::SerialNumAscending; }
+    /// The logical column that a section's head names; `section` is one of headList's.
+    int logicalColumnAt(int section) const;
     /// Row of modelData shown at a view row; -1 when there is none.
     int modelRowAt(int viewRow) const;
     int shownRowCount() const { return filterable ? displayKeyList.size() : modelData.size(); }
@@ -159,6 +161,9 @@ private:
     QModelIndexList parkedPlaces(const QModelIndexList &indexes) const;
 
     std::unique_ptr<ZrTableRows> m_rows;
+    // Of the heads as they were when somebody last asked: each paint asks some thousand times.
+    mutable HeadList m_readHeads;
+    mutable QVector<int> m_readColumns;
     const QVector<int> *m_touchedRows = nullptr; // during a reset that is about them
     int m_toldRows = 0;
     int m_toldColumns = 0;

@@ -45,9 +45,25 @@ void ZrTableRows::forgetCounts()
     m_fields.sums.stop();
 }
 
+namespace {
+
+// Columns mostly follow one another without a gap: then their ends tell that all of a record's are known, and
+// the cells between need not be fetched.
+bool areColumnsKnown(const RecordData &record, const QMap<int, int> &known)
+{
+    if (record.isEmpty() || known.isEmpty())
+        return record.isEmpty();
+    const bool isWithoutGap = qint64(known.lastKey()) - known.firstKey() + 1 == known.size();
+    return isWithoutGap && record.firstKey() >= known.firstKey() && record.lastKey() <= known.lastKey();
+}
+
+} // namespace
+
 void ZrTableRows::learnTypes(const RecordData &record)
 {
     QMap<int, int> &types = m_fields.columnTypes;
+    if (areColumnsKnown(record, types))
+        return;
     for (auto it = record.constBegin(); it != record.constEnd(); ++it) {
         if (types.contains(it.key()))
             continue;
@@ -228,6 +244,16 @@ void ZrTableRows::replaceAll(const RecordDataList &records)
 void ZrTableRows::rebuild()
 {
     m_fields.keyToRow.markStale();
+    refilter();
+}
+
+void ZrTableRows::rebuildFrom(const ZrTableKeyIndex &index, const RecordDataList &rows)
+{
+    if (!hasKeys() || !m_fields.modelData.isSharedWith(rows)) {
+        rebuild();
+        return;
+    }
+    m_fields.keyToRow = index;
     refilter();
 }
 

@@ -3,6 +3,7 @@
 #include "zrutils/ZrRecordTypes.h"
 #include "zrwidget_global.h"
 
+class ZrTableKeyIndex;
 class ZrTableModelPrivate;
 
 /// Keeps rows, key index, display list, counters and sums in step while rows come and go; sends no signals.
@@ -37,6 +38,8 @@ public:
 
     /// The key map anew; in filter mode the display list as well.
     void rebuild();
+    /// What rebuild() gives, from the key map of `rows` where these still are the model's.
+    void rebuildFrom(const ZrTableKeyIndex &index, const RecordDataList &rows);
     /// What rebuild() gives while the rows are as they were.
     void refilter();
     void refreshDisplay();

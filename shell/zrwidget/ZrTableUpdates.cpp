@@ -7,7 +7,6 @@
 #include "ZrTableSignalScope.h"
 
 #include <QtCore/QDebug>
-#include <QtCore/QSet>
 
 #include <algorithm>
 
@@ -185,14 +184,21 @@ void ZrTableUpdates::updateMany(const RecordDataList &records)
 
 void ZrTableUpdates::replaceAll(const RecordDataList &records)
 {
+    const QList<int> keyColumns = m_fields.keyColumns;
     RecordDataList kept;
-    QSet<QString> seen;
-    for (const RecordData &record : records) {
-        if (m_fields.rows().hasKeys()) {
+    ZrTableKeyIndex index; // of the rows kept
+    kept.reserve(records.size());
+    if (!keyColumns.isEmpty())
+        index.reserve(records.size());
+    for (int i = 0; i < records.size(); ++i) {
+        const RecordData &record = records.at(i);
+        if (i % ZrRecordFetch::BlockSize == 0)
+            ZrRecordFetch::keys(records, i, keyColumns);
+        if (!keyColumns.isEmpty()) {
             const QString key = m_fields.makeKey(record);
-            if (key.isEmpty() || seen.contains(key))
+            if (key.isEmpty() || index.contains(key))
                 continue;
-            seen.insert(key);
+            index.enter(key, kept.size());
         }
         m_fields.rows().learnTypes(record);
         kept.append(record);
@@ -203,7 +209,10 @@ void ZrTableUpdates::replaceAll(const RecordDataList &records)
     // list.
     m_fields.resetViews();
     m_fields.updateHeadCheckState();
-    m_fields.rows().rebuild();
+    if (m_fields.keyColumns == keyColumns) // a slot of the reset may have set others
+        m_fields.rows().rebuildFrom(index, kept);
+    else
+        m_fields.rows().rebuild();
     if (m_fields.filterable) {
         m_fields.correctHeadCheckState();
         m_fields.settleViews();
