@@ -55,8 +55,6 @@ ZrLinkageCombox *withLongText()
 {
     ZrLinkageCombox *const combo = make(2);
     combo->setItemText(2, ZrShowcase::tr("Security and trading account of the same investor"));
-    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    combo->setMinimumContentsLength(10);
     return combo;
 }
 } // namespace

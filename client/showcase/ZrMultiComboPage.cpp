@@ -11,13 +11,13 @@
 
 namespace {
 constexpr int RowsInSight = 6;
-constexpr int ListWidthPx = ZrShowcaseGrid::ColumnPx;
+constexpr int ListWidthPx = ZrShowcaseGrid::LeastPx;
 constexpr int EdgesPx = 6; // border and padding above and below the rows
 
 ZrMultiComboBox *make(const QStringList &texts, const QList<int> &ticked)
 {
     auto *const combo = new ZrMultiComboBox;
-    combo->setFixedWidth(ZrShowcaseGrid::ColumnPx);
+    combo->setFixedWidth(ZrShowcaseGrid::LeastPx);
     combo->addItems(texts);
     for (const int row : ticked)
         combo->selectIndex(row, true);

@@ -3,12 +3,13 @@
 #include <QtWidgets/QWidget>
 
 namespace {
-constexpr int Pitch = ZrShowcaseGrid::ColumnPx + ZrShowcaseGrid::GapPx;
+constexpr int Pitch = ZrShowcaseGrid::StepPx;
+constexpr int LeastColumns = 2;
 
 int columnsOf(const QLayoutItem *item)
 {
     const int width = item->sizeHint().expandedTo(item->minimumSize()).width();
-    return qMax(1, (width + ZrShowcaseGrid::GapPx + Pitch - 1) / Pitch);
+    return qMax(LeastColumns, (width + ZrShowcaseGrid::GapPx + Pitch - 1) / Pitch);
 }
 
 int heightOf(const QLayoutItem *item, int width)
@@ -53,7 +54,7 @@ int ZrShowcaseGrid::heightForWidth(int width) const
 // Room for any one of them: how high all lines are depends on the width, which is not known here.
 QSize ZrShowcaseGrid::minimumSize() const
 {
-    QSize size(ColumnPx, 0);
+    QSize size(LeastPx, 0);
     for (const QLayoutItem *const item : m_items) {
         const int width = columnsOf(item) * Pitch - GapPx;
         size = size.expandedTo({width, heightOf(item, width)});

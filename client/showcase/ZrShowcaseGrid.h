@@ -4,7 +4,8 @@
 
 /// Lays widgets out on columns of one width, line after line.
 ///
-/// Shape:     a widget takes as many columns as its width needs; the next line begins where the width ends.
+/// Shape:     a widget takes as many columns as its width needs, two at least; the next line begins where the
+/// width ends.
 ///            All widgets of a line begin at the same height.
 /// Units:     sizes in logical px.
 /// Ownership: normal QLayout rules.
@@ -12,8 +13,9 @@
 class ZrShowcaseGrid : public QLayout
 {
 public:
-    static constexpr int ColumnPx = 176;
     static constexpr int GapPx = 16;
+    static constexpr int StepPx = 96;                  // a column and its gap
+    static constexpr int LeastPx = 2 * StepPx - GapPx; // of a widget: two columns
 
     explicit ZrShowcaseGrid(QWidget *parent);
     ~ZrShowcaseGrid() override;

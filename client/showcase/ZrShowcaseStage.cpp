@@ -16,7 +16,7 @@ QSize sizeOf(const QWidget *widget)
     const bool fills = widget->sizePolicy().expandingDirections().testFlag(Qt::Horizontal);
     QSize size = widget->sizeHint().expandedTo(widget->minimumSize());
     if (fills)
-        size.setWidth(qMax(size.width(), ZrShowcaseGrid::ColumnPx));
+        size.setWidth(qMax(size.width(), ZrShowcaseGrid::LeastPx));
     return size.boundedTo(widget->maximumSize());
 }
 

@@ -1,6 +1,7 @@
 #include "ZrLinkageCombox.h"
 
 #include <QtCore/QDebug>
+#include <QtGui/QRgb>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QLineEdit>
 
@@ -27,6 +28,14 @@ bool isColour(const QString &rgba)
     const QStringList parts = rgba.split(QLatin1Char(','));
     return parts.size() == Channels && std::all_of(parts.cbegin(), parts.cend(), isChannel);
 }
+
+/// Whether a light text can't be read on the colour, whatever dark ground shines through it.
+bool isBright(const QString &rgba)
+{
+    constexpr int brightGray = 200;
+    const QStringList parts = rgba.split(QLatin1Char(','));
+    return qGray(parts.at(0).toInt(), parts.at(1).toInt(), parts.at(2).toInt()) > brightGray;
+}
 } // namespace
 
 ZrLinkageCombox::ZrLinkageCombox(QWidget *parent)
@@ -44,6 +53,8 @@ void ZrLinkageCombox::setComboBackground(const QString &rgba)
         qWarning() << "ZrLinkageCombox::setComboBackground" << rgba.left(64);
         return;
     }
+    // Before the sheet, which makes all sheets be read again: a skin's rules choose the text's colour by it.
+    setProperty("brightGroup", isBright(rgba));
     if (QLineEdit *const edit = lineEdit())
         edit->setStyleSheet(QStringLiteral("QLineEdit{background:rgba(") + rgba + QStringLiteral(");}"));
     else

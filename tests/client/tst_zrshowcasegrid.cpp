@@ -25,9 +25,14 @@ private:
 };
 
 namespace {
-constexpr int Column = ZrShowcaseGrid::ColumnPx;
 constexpr int Gap = ZrShowcaseGrid::GapPx;
-constexpr int Pitch = Column + Gap;
+constexpr int Step = ZrShowcaseGrid::StepPx;
+constexpr int Least = ZrShowcaseGrid::LeastPx;
+
+constexpr int columns(int count)
+{
+    return count * Step - Gap;
+}
 } // namespace
 
 void tst_ZrShowcaseGrid::init()
@@ -48,12 +53,12 @@ void tst_ZrShowcaseGrid::aWidgetTakesTheColumnsThatItNeeds_data()
 {
     QTest::addColumn<int>("width");
     QTest::addColumn<int>("expected");
-    QTest::newRow("nothing") << 0 << Column;
-    QTest::newRow("less than a column") << Column - 1 << Column;
-    QTest::newRow("a column") << Column << Column;
-    QTest::newRow("one pixel more") << Column + 1 << Pitch + Column;
-    QTest::newRow("two columns and their gap") << Pitch + Column << Pitch + Column;
-    QTest::newRow("one pixel more than two") << Pitch + Column + 1 << 2 * Pitch + Column;
+    QTest::newRow("nothing") << 0 << columns(2);
+    QTest::newRow("less than two columns") << columns(2) - 1 << columns(2);
+    QTest::newRow("two columns") << columns(2) << columns(2);
+    QTest::newRow("one pixel more") << columns(2) + 1 << columns(3);
+    QTest::newRow("three columns and their gaps") << columns(3) << columns(3);
+    QTest::newRow("one pixel more than three") << columns(3) + 1 << columns(4);
 }
 
 void tst_ZrShowcaseGrid::aWidgetTakesTheColumnsThatItNeeds()
@@ -62,9 +67,9 @@ void tst_ZrShowcaseGrid::aWidgetTakesTheColumnsThatItNeeds()
     QFETCH(int, expected);
     const QWidget *const widget = add({width, 20});
     const QWidget *const next = add({10, 20});
-    layOut(10 * Pitch);
+    layOut(10 * Step);
     QCOMPARE(widget->geometry(), QRect(0, 0, expected, 20));
-    QCOMPARE(next->geometry(), QRect(expected + Gap, 0, Column, 20));
+    QCOMPARE(next->geometry(), QRect(expected + Gap, 0, Least, 20));
 }
 
 void tst_ZrShowcaseGrid::aLineIsAsHighAsItsHighest()
@@ -72,20 +77,20 @@ void tst_ZrShowcaseGrid::aLineIsAsHighAsItsHighest()
     const QWidget *const low = add({10, 20});
     add({10, 50});
     const QWidget *const below = add({10, 20});
-    layOut(Pitch + Column);
-    QCOMPARE(low->geometry(), QRect(0, 0, Column, 20));
+    layOut(columns(4));
+    QCOMPARE(low->geometry(), QRect(0, 0, Least, 20));
     QCOMPARE(below->y(), 50 + Gap);
-    QCOMPARE(m_grid->heightForWidth(Pitch + Column), 50 + Gap + 20);
+    QCOMPARE(m_grid->heightForWidth(columns(4)), 50 + Gap + 20);
 }
 
 void tst_ZrShowcaseGrid::whatDoesNotFitBeginsALine()
 {
     add({10, 20});
-    const QWidget *const wide = add({Pitch + Column, 20});
-    layOut(Pitch + Column); // two columns
-    QCOMPARE(wide->geometry(), QRect(0, 20 + Gap, Pitch + Column, 20));
-    layOut(2 * Pitch + Column);
-    QCOMPARE(wide->geometry(), QRect(Pitch, 0, Pitch + Column, 20));
+    const QWidget *const wide = add({columns(4), 20});
+    layOut(columns(4)); // two columns
+    QCOMPARE(wide->geometry(), QRect(0, 20 + Gap, columns(4), 20));
+    layOut(columns(6));
+    QCOMPARE(wide->geometry(), QRect(2 * Step, 0, columns(4), 20));
 }
 
 void tst_ZrShowcaseGrid::oneThatIsTooWideGetsItsWidth()
@@ -105,7 +110,7 @@ void tst_ZrShowcaseGrid::takenItemsLeaveNoGap()
     QVERIFY(!m_grid->takeAt(1));
     QVERIFY(!m_grid->itemAt(1));
     QCOMPARE(m_grid->count(), 1);
-    layOut(10 * Pitch);
+    layOut(10 * Step);
     QCOMPARE(second->x(), 0);
 }
 

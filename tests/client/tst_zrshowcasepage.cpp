@@ -125,7 +125,7 @@ void tst_ZrShowcasePage::aSampleIsShownUnderItsCaption()
     QCOMPARE(edit->x(), caption->x());
     QCOMPARE(edit->accessibleName(), QStringLiteral("Normal"));
     // One fills its column, the other keeps its size; both begin at the same height.
-    QCOMPARE(edit->width(), ZrShowcaseGrid::ColumnPx);
+    QCOMPARE(edit->width(), ZrShowcaseGrid::LeastPx);
     QCOMPARE(button->width(), button->sizeHint().width());
     QCOMPARE(button->mapTo(page.get(), QPoint()).y(), edit->mapTo(page.get(), QPoint()).y());
 }

@@ -13,6 +13,8 @@ private slots:
     void everyTextIsReadable();
     void changesOfPriceAreReadableInEveryRow_data();
     void changesOfPriceAreReadableInEveryRow();
+    void textsOnTheColoursOfGroupsAreReadable_data();
+    void textsOnTheColoursOfGroupsAreReadable();
 };
 
 namespace {
@@ -149,6 +151,9 @@ void tst_ZrSkinContrast::everyTextIsReadable()
     const QStringList selectors = rules.selectors();
     QVERIFY(!selectors.isEmpty());
     for (const QString &selector : selectors) {
+        // Its ground stands in no sheet; see textsOnTheColoursOfGroupsAreReadable.
+        if (selector.startsWith(QLatin1String("ZrLinkageCombox")))
+            continue;
         const SkinSheet::Values values = rules.values(selector);
         const QString back = values.contains(QStringLiteral("background"))
                                  ? QStringLiteral("background")
@@ -183,6 +188,37 @@ void tst_ZrSkinContrast::changesOfPriceAreReadableInEveryRow()
         QVERIFY(!SkinSheet::colours(colour).isEmpty());
         for (const char *const back : {"background", "alternate-background-color"})
             compare(QLatin1String(name), colour, SkinSheet::colours(table.value(QLatin1String(back))), &poor);
+    }
+    QVERIFY2(poor.isEmpty(), qPrintable(poor.join(QLatin1Char('\n'))));
+}
+
+void tst_ZrSkinContrast::textsOnTheColoursOfGroupsAreReadable_data()
+{
+    eachSkin();
+}
+
+void tst_ZrSkinContrast::textsOnTheColoursOfGroupsAreReadable()
+{
+    QFETCH(QString, skin);
+    const SkinSheet frame = sheet(skin, QStringLiteral("client/workstation.css"));
+    const QString usual =
+        frame.values(QStringLiteral("ZrLinkageCombox"))
+            .value(QStringLiteral("color"),
+                   frame.values(QStringLiteral("QComboBox")).value(QStringLiteral("color")));
+    const QString onBright = frame.values(QStringLiteral("ZrLinkageCombox[brightGroup=\"true\"]"))
+                                 .value(QStringLiteral("color"), usual);
+    QStringList poor;
+    const QMap<QString, bool> groups = {{QStringLiteral("rgba(255, 127, 39, 150)"), false},
+                                        {QStringLiteral("rgba(255, 242, 0, 150)"), true},
+                                        {QStringLiteral("rgba(0, 162, 232, 150)"), false},
+                                        {QStringLiteral("rgba(63, 72, 204, 150)"), false},
+                                        {QStringLiteral("rgba(163, 73, 164, 150)"), false}};
+    for (auto group = groups.cbegin(); group != groups.cend(); ++group) {
+        QList<QColor> grounds;
+        const QList<QColor> below = surfaces(skin);
+        for (const QColor &surface : below)
+            grounds.append(SkinSheet::over(SkinSheet::colours(group.key()).value(0), surface));
+        compare(group.key(), group.value() ? onBright : usual, grounds, &poor);
     }
     QVERIFY2(poor.isEmpty(), qPrintable(poor.join(QLatin1Char('\n'))));
 }
