@@ -55,7 +55,10 @@ ZrWorkstationOptions tst_ZrWorkstation::sample() const
 
 ZrWorkstationPaths tst_ZrWorkstation::paths() const
 {
-    return {QStringLiteral(ZR_SKINS), {QStringLiteral(ZR_CLIENT_RECORDINGS)}, m_folder.path()};
+    return {QStringLiteral(ZR_SKINS),
+            QStringLiteral(ZR_DATA),
+            {QStringLiteral(ZR_CLIENT_RECORDINGS)},
+            m_folder.path()};
 }
 
 void tst_ZrWorkstation::aRecordingRunsFromTheBusToThePixels()
