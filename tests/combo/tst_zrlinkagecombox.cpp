@@ -90,6 +90,28 @@ private slots:
         QCOMPARE(combo.grab().toImage().pixelColor(40, 4), QColor(0, 162, 232));
     }
 
+    void aSheetKnowsABrightGroup_data()
+    {
+        QTest::addColumn<QString>("rgba");
+        QTest::addColumn<QColor>("expected");
+        QTest::newRow("orange") << QStringLiteral("255,127,39,150") << QColor(Qt::white);
+        QTest::newRow("yellow") << QStringLiteral("255,242,0,150") << QColor(Qt::black);
+        QTest::newRow("indigo") << QStringLiteral("63,72,204,150") << QColor(Qt::white);
+    }
+
+    void aSheetKnowsABrightGroup()
+    {
+        QFETCH(QString, rgba);
+        QFETCH(QColor, expected);
+        QWidget window;
+        window.setStyleSheet(QStringLiteral("ZrLinkageCombox{color: white;}"
+                                            "ZrLinkageCombox[brightGroup=\"true\"]{color: black;}"));
+        ZrLinkageCombox combo(&window);
+        window.show();
+        combo.setComboBackground(rgba);
+        QCOMPARE(combo.palette().color(QPalette::ButtonText), expected);
+    }
+
     void theKeyboardChoosesTheGroup()
     {
         QWidget window;

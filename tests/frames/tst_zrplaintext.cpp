@@ -107,6 +107,8 @@ private slots:
     void anEndlessTextFitsAnEdit();
     void aLongLogIsSetQuickly();
     void anEndlessLineIsAppendedQuickly();
+    void whatIsOutOfSightIsLeftOut_data();
+    void whatIsOutOfSightIsLeftOut();
     void nothingIsDoneToNothing();
 };
 
@@ -408,6 +410,28 @@ void tst_ZrPlainText::anEndlessLineIsAppendedQuickly()
     });
     QVERIFY2(ms < MostLayoutMs, qPrintable(QString::number(ms)));
     QCOMPARE(edit.horizontalScrollBar()->maximum(), 0);
+}
+
+void tst_ZrPlainText::whatIsOutOfSightIsLeftOut_data()
+{
+    QTest::addColumn<int>("length");
+    QTest::addColumn<QSize>("place");
+    QTest::addColumn<int>("expected"); // characters kept
+    QTest::newRow("fits") << 80 << QSize(80, 20) << 80;
+    QTest::newRow("one more than pixels") << 81 << QSize(80, 20) << 80;
+    QTest::newRow("endless") << HundredKilobytes << QSize(80, 20) << 80;
+    QTest::newRow("no place") << 10 << QSize(0, 0) << 1;
+    QTest::newRow("no size") << 10 << QSize() << 1;
+}
+
+void tst_ZrPlainText::whatIsOutOfSightIsLeftOut()
+{
+    QFETCH(int, length);
+    QFETCH(QSize, place);
+    QFETCH(int, expected);
+    const QString text(length, 'W');
+    const QString seen = ZrPlainText::visiblePart(text, place);
+    QCOMPARE(seen, length == expected ? text : text.left(expected) + ZrPlainText::mark());
 }
 
 void tst_ZrPlainText::nothingIsDoneToNothing()
