@@ -12,6 +12,7 @@ class tst_ZrShowcasePages : public QObject
     Q_OBJECT
 private slots:
     void initTestCase();
+    void cleanupTestCase() { m_scene.reset(); }
     void theListKnowsWhatThePagesAre_data() { addPages(); }
     void theListKnowsWhatThePagesAre();
     void noTwoPagesShareAnId();
@@ -24,6 +25,10 @@ private slots:
 
 private:
     void addPages();
+    /// A page in the dark window that the tests share which change nothing in it.
+    ZrShowcasePage *darkPage(const QString &id);
+
+    std::unique_ptr<ShowcaseScene> m_scene; // null while a test has one of its own
 };
 
 namespace {
@@ -87,13 +92,19 @@ void tst_ZrShowcasePages::addPages()
         QTest::newRow(qPrintable(entry.id)) << entry.id << entry.title;
 }
 
+ZrShowcasePage *tst_ZrShowcasePages::darkPage(const QString &id)
+{
+    if (!m_scene)
+        m_scene = std::make_unique<ShowcaseScene>(dark());
+    return m_scene->open(id);
+}
+
 void tst_ZrShowcasePages::theListKnowsWhatThePagesAre()
 {
     QFETCH(QString, id);
     QFETCH(QString, title);
-    ShowcaseScene scene(dark());
-    QVERIFY(scene.isReady());
-    const ZrShowcasePage *const page = scene.open(id);
+    const ZrShowcasePage *const page = darkPage(id);
+    QVERIFY(m_scene->isReady());
     QVERIFY(page);
     QCOMPARE(page->id(), id);
     QCOMPARE(page->title(), title);
@@ -112,6 +123,7 @@ void tst_ZrShowcasePages::noTwoPagesShareAnId()
 void tst_ZrShowcasePages::aPageAfterASwitchIsThatOfAFreshStart()
 {
     QFETCH(QString, id);
+    m_scene.reset(); // there is one host in a process
     QImage freshDark;
     QImage switchedLight;
     {
@@ -133,8 +145,7 @@ void tst_ZrShowcasePages::aPageAfterASwitchIsThatOfAFreshStart()
 void tst_ZrShowcasePages::everyControlHasAName()
 {
     QFETCH(QString, id);
-    ShowcaseScene scene(dark());
-    ZrShowcasePage *const page = scene.open(id);
+    ZrShowcasePage *const page = darkPage(id);
     QStringList nameless;
     collectNameless(QAccessible::queryAccessibleInterface(page), QString(), &nameless);
     QVERIFY2(nameless.isEmpty(), qPrintable(nameless.join(QLatin1Char('\n'))));
@@ -143,8 +154,7 @@ void tst_ZrShowcasePages::everyControlHasAName()
 void tst_ZrShowcasePages::nothingStandsOutsideThePage()
 {
     QFETCH(QString, id);
-    ShowcaseScene scene(dark());
-    ZrShowcasePage *const page = scene.open(id);
+    ZrShowcasePage *const page = darkPage(id);
     const auto *const content = page->findChild<QWidget *>(QStringLiteral("showcaseContent"));
     const QList<QWidget *> cells = content->findChildren<QWidget *>(QStringLiteral("showcaseCell"));
     QVERIFY(!cells.isEmpty());
