@@ -10,8 +10,8 @@ class QModelIndex;
 
 /// A cell that shows nothing but a text: what nearly every cell of a grid of prices is.
 ///
-/// A delegate asks a model for seven roles of each cell that it paints, and each question finds row, column and cell
-/// anew. Where the model is the table's own, one look answers them all.
+/// A delegate asks a model for seven roles of each cell that it paints, and each question finds row, column
+/// and cell anew. Where the model is the table's own, one look answers them all.
 ///
 /// Threads: GUI thread only.
 class ZRWIDGET_PRIVATE_EXPORT ZrPlainCell
