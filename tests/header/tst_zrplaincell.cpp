@@ -33,6 +33,8 @@ public:
 class ShoutingModel : public ZrTableModel
 {
 public:
+    using ZrTableModel::ZrTableModel;
+
     QVariant data(const QModelIndex &index, int role) const override
     {
         return role == Qt::DisplayRole ? QVariant("LOUD") : ZrTableModel::data(index, role);
@@ -84,7 +86,8 @@ void tst_ZrPlainCell::anOptionIsWhatTheToolkitWouldFill()
 {
     QFETCH(ItemRoleMap, cell);
     QFETCH(bool, plain);
-    ZrTableModel model;
+    QObject owner;
+    ZrTableModel model(&owner);
     fill(&model, cell);
     model.setColumnTextAlignment(1, int(Qt::AlignRight | Qt::AlignVCenter));
     OpenDelegate delegate;
@@ -108,12 +111,13 @@ void tst_ZrPlainCell::anOptionIsWhatTheToolkitWouldFill()
 
 void tst_ZrPlainCell::onlyTheTablesOwnModelIsRead()
 {
-    ShoutingModel shouting;
+    QObject owner;
+    ShoutingModel shouting(&owner);
     fill(&shouting, {{"0", "quiet"}});
     QVERIFY(!ZrPlainCell().read(shouting.index(0, 1)));
     QCOMPARE(OpenDelegate().filled(shouting.index(0, 1)).text, QString("LOUD"));
 
-    ZrTableModel model;
+    ZrTableModel model(&owner);
     fill(&model, {{"0", "quiet"}});
     QSortFilterProxyModel proxy;
     proxy.setSourceModel(&model);
@@ -123,7 +127,8 @@ void tst_ZrPlainCell::onlyTheTablesOwnModelIsRead()
 
 void tst_ZrPlainCell::outsideTheRowsThereIsNoCell()
 {
-    ZrTableModel model;
+    QObject owner;
+    ZrTableModel model(&owner);
     fill(&model, {{"0", "x"}});
     QVERIFY(!ZrPlainCell().read(QModelIndex()));
     const QModelIndex stale = model.index(0, 1);
@@ -133,7 +138,8 @@ void tst_ZrPlainCell::outsideTheRowsThereIsNoCell()
 
 void tst_ZrPlainCell::theCheckColumnIsNoPlainCell()
 {
-    ZrTableModel model;
+    QObject owner;
+    ZrTableModel model(&owner);
     fill(&model, {{"0", "x"}});
     model.setCheckBoxShow(true);
     QVERIFY(!ZrPlainCell().read(model.index(0, 0)));
