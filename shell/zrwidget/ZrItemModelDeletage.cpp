@@ -1,6 +1,7 @@
 #include "ZrItemModelDeletage.h"
 
 #include "ZrItemModelDeletage_p.h"
+#include "ZrPlainCell.h"
 #include "ZrPlainText.h"
 #include "ZrRoleKeys.h"
 #include "ZrSkinPixmap.h"
@@ -50,6 +51,24 @@ void ZrItemModelDeletage::paint(QPainter *painter, const QStyleOptionViewItem &o
     }
     if (d->itemGridShown)
         drawGrid(painter, option.rect);
+}
+
+void ZrItemModelDeletage::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    ZrPlainCell cell;
+    if (!cell.read(index)) {
+        QStyledItemDelegate::initStyleOption(option, index);
+        return;
+    }
+    option->index = index;
+    if (!cell.alignment().isNull())
+        option->displayAlignment = Qt::Alignment(cell.alignment().toInt());
+    if (!cell.display().isNull()) {
+        option->features |= QStyleOptionViewItem::HasDisplay;
+        option->text = displayText(cell.display(), option->locale);
+    }
+    option->backgroundBrush = QBrush();
+    option->styleObject = nullptr; // as the base does: no animations of a style within a grid
 }
 
 void ZrItemModelDeletage::drawItem(QPainter *painter, QStyleOptionViewItem *option) const

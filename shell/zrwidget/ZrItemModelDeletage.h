@@ -55,6 +55,9 @@ public:
     void drawMetricsText(QPainter *painter, const QRect &rect, int flags, const QString &text) const;
     QRect getItemRectWithMargin(const QRect &rect) const;
 
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
+
 public slots:
     /// For subclasses; does nothing here.
     virtual void slotIndex(int index);

@@ -23,18 +23,22 @@ QVariant ZrTableCellReader::read(const ZrTableModelPrivate &fields, int row, int
     const int modelRow = fields.modelRowAt(row);
     if (modelRow < 0)
         return QVariant();
-    if (role == Qt::TextAlignmentRole) {
-        const auto own = fields.columnAlignment.constFind(column);
-        if (own != fields.columnAlignment.constEnd())
-            return *own;
-        return column >= 0 ? fields.defaultColumnAlignment : c_pseudoAlignment;
-    }
+    if (role == Qt::TextAlignmentRole)
+        return alignment(fields, column);
     const RecordData &record = fields.modelData.at(modelRow);
     if (column >= 0)
         return cellValue(record, column, role);
     if (role == Qt::BackgroundRole)
         return record.value(column).value(ITEM_BACKGROUNDROLE);
     return pseudoValue(fields, record, row, column, role);
+}
+
+QVariant ZrTableCellReader::alignment(const ZrTableModelPrivate &fields, int column)
+{
+    const auto own = fields.columnAlignment.constFind(column);
+    if (own != fields.columnAlignment.constEnd())
+        return *own;
+    return column >= 0 ? fields.defaultColumnAlignment : c_pseudoAlignment;
 }
 
 QVariant ZrTableCellReader::cellValue(const RecordData &record, int column, int role)

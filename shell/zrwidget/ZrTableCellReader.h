@@ -15,6 +15,7 @@ class ZRWIDGET_PRIVATE_EXPORT ZrTableCellReader
 {
 public:
     static QVariant read(const ZrTableModelPrivate &fields, int row, int column, int role);
+    static QVariant alignment(const ZrTableModelPrivate &fields, int column);
     static QVariant head(const ZrTableModelPrivate &fields, int section, int role);
 
 private:

@@ -66,6 +66,13 @@ void ZrTableKeyIndex::enter(const QString &key, int row)
     m_numbers.insert(key, m_base + row);
 }
 
+void ZrTableKeyIndex::remove(const QString &key)
+{
+    // Taken, not removed: removal goes on to compare the key with its neighbour's, whose text lies elsewhere
+    // in memory and is of use to nobody.
+    m_numbers.take(key);
+}
+
 void ZrTableKeyIndex::rebuild(const RecordDataList &rows, const QList<int> &keyColumns)
 {
     if (keyColumns.isEmpty()) {

@@ -30,7 +30,7 @@ public:
     /// Counts all rows anew; a key met twice keeps the later row, an empty one none.
     void rebuild(const RecordDataList &rows, const QList<int> &keyColumns);
     void enter(const QString &key, int row);
-    void remove(const QString &key) { m_numbers.remove(key); }
+    void remove(const QString &key);
 
     // For an exact index. Rows as they are after the change; the keys of rows that left are removed by the
     // caller.

@@ -21,9 +21,7 @@
 #include <QtWidgets/QToolTip>
 #include <QtWidgets/QVBoxLayout>
 
-#include <ctime>
 #include <functional>
-#include <limits>
 
 /// Texts from outside are shown as they are, in every widget that shows text: no picture is read, no shortcut
 /// made, and a long one leaves its window alone.
@@ -38,8 +36,6 @@ private slots:
     void anAmpersandIsNoShortcut();
     void aLongTextStaysInside_data() { addWidgets(); }
     void aLongTextStaysInside();
-    void aLongTextIsLaidOutAtOnce_data() { addWidgets(); }
-    void aLongTextIsLaidOutAtOnce();
     void marksOfDirectionAreKept_data() { addWidgets(); }
     void marksOfDirectionAreKept();
 
@@ -55,13 +51,6 @@ namespace {
 using Maker = std::function<QWidget *(const QString &text, QWidget *parent)>;
 
 constexpr QSize RoomPx(900, 600);
-// Laying out the longest text takes this long at most; checkers of memory make everything slower.
-#if defined(__SANITIZE_ADDRESS__)
-constexpr int Slowness = 8;
-#else
-constexpr int Slowness = 1;
-#endif
-constexpr qint64 MostNs = 20000000;
 
 QString longText()
 {
@@ -172,14 +161,6 @@ private:
     QWidget m_window;
     QWidget *m_widget; // the window's
 };
-
-// Time that this thread has had: what else runs on the machine doesn't count.
-qint64 threadNs()
-{
-    timespec now{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return qint64(now.tv_sec) * 1000000000 + now.tv_nsec;
-}
 
 bool containsColour(const QImage &picture, const QColor &colour)
 {
@@ -303,28 +284,6 @@ void tst_ZrHostileTexts::aLongTextStaysInside()
         if (widget->isVisible() && widget->window() == room.widget()->window() && !scrolls(widget))
             QVERIFY2(room.widget()->rect().contains(place), widget->metaObject()->className());
     }
-}
-
-void tst_ZrHostileTexts::aLongTextIsLaidOutAtOnce()
-{
-    QFETCH(Maker, make);
-    const QString text = longText();
-    const Room warm(make, QStringLiteral("a")); // fonts and sheets
-    qint64 leastNs = std::numeric_limits<qint64>::max();
-    qint64 shortNs = std::numeric_limits<qint64>::max();
-    // The least of some: a cold cache makes a single one slower, nothing makes it faster.
-    for (int i = 0; i < 5; ++i) {
-        const qint64 startNs = threadNs();
-        const Room plain(make, QStringLiteral("a"));
-        const qint64 betweenNs = threadNs();
-        const Room room(make, text);
-        shortNs = qMin(shortNs, betweenNs - startNs);
-        leastNs = qMin(leastNs, threadNs() - betweenNs);
-    }
-    // What making and showing the widget costs anyway is no matter of the text.
-    const qint64 textNs = leastNs - shortNs;
-    qInfo("%lld us", textNs / 1000);
-    QVERIFY2(textNs < MostNs * Slowness, qPrintable(QStringLiteral("%1 us").arg(textNs / 1000)));
 }
 
 void tst_ZrHostileTexts::marksOfDirectionAreKept()
