@@ -7,6 +7,7 @@
 #include <QtGui/QPixmap>
 #include <QtTest/QtTest>
 #include <QtWidgets/QStyleOptionViewItem>
+#include <QtWidgets/QWidget>
 
 namespace {
 
@@ -86,7 +87,7 @@ void tst_ZrPlainCell::anOptionIsWhatTheToolkitWouldFill()
 {
     QFETCH(ItemRoleMap, cell);
     QFETCH(bool, plain);
-    QObject owner;
+    QWidget owner;
     ZrTableModel model(&owner);
     fill(&model, cell);
     model.setColumnTextAlignment(1, int(Qt::AlignRight | Qt::AlignVCenter));
@@ -111,7 +112,7 @@ void tst_ZrPlainCell::anOptionIsWhatTheToolkitWouldFill()
 
 void tst_ZrPlainCell::onlyTheTablesOwnModelIsRead()
 {
-    QObject owner;
+    QWidget owner;
     ShoutingModel shouting(&owner);
     fill(&shouting, {{"0", "quiet"}});
     QVERIFY(!ZrPlainCell().read(shouting.index(0, 1)));
@@ -127,7 +128,7 @@ void tst_ZrPlainCell::onlyTheTablesOwnModelIsRead()
 
 void tst_ZrPlainCell::outsideTheRowsThereIsNoCell()
 {
-    QObject owner;
+    QWidget owner;
     ZrTableModel model(&owner);
     fill(&model, {{"0", "x"}});
     QVERIFY(!ZrPlainCell().read(QModelIndex()));
@@ -138,7 +139,7 @@ void tst_ZrPlainCell::outsideTheRowsThereIsNoCell()
 
 void tst_ZrPlainCell::theCheckColumnIsNoPlainCell()
 {
-    QObject owner;
+    QWidget owner;
     ZrTableModel model(&owner);
     fill(&model, {{"0", "x"}});
     model.setCheckBoxShow(true);
