@@ -7,7 +7,7 @@
 #include <QtGui/QPixmap>
 #include <QtTest/QtTest>
 #include <QtWidgets/QStyleOptionViewItem>
-#include <QtWidgets/QWidget>
+#include <QtWidgets/QTableView>
 
 namespace {
 
@@ -87,7 +87,7 @@ void tst_ZrPlainCell::anOptionIsWhatTheToolkitWouldFill()
 {
     QFETCH(ItemRoleMap, cell);
     QFETCH(bool, plain);
-    QWidget owner;
+    QTableView owner; // whose head the columns are told to
     ZrTableModel model(&owner);
     fill(&model, cell);
     model.setColumnTextAlignment(1, int(Qt::AlignRight | Qt::AlignVCenter));
@@ -112,7 +112,7 @@ void tst_ZrPlainCell::anOptionIsWhatTheToolkitWouldFill()
 
 void tst_ZrPlainCell::onlyTheTablesOwnModelIsRead()
 {
-    QWidget owner;
+    QTableView owner; // whose head the columns are told to
     ShoutingModel shouting(&owner);
     fill(&shouting, {{"0", "quiet"}});
     QVERIFY(!ZrPlainCell().read(shouting.index(0, 1)));
@@ -128,7 +128,7 @@ void tst_ZrPlainCell::onlyTheTablesOwnModelIsRead()
 
 void tst_ZrPlainCell::outsideTheRowsThereIsNoCell()
 {
-    QWidget owner;
+    QTableView owner; // whose head the columns are told to
     ZrTableModel model(&owner);
     fill(&model, {{"0", "x"}});
     QVERIFY(!ZrPlainCell().read(QModelIndex()));
@@ -139,7 +139,7 @@ void tst_ZrPlainCell::outsideTheRowsThereIsNoCell()
 
 void tst_ZrPlainCell::theCheckColumnIsNoPlainCell()
 {
-    QWidget owner;
+    QTableView owner; // whose head the columns are told to
     ZrTableModel model(&owner);
     fill(&model, {{"0", "x"}});
     model.setCheckBoxShow(true);
