@@ -148,6 +148,7 @@ void TestZrPluginLinkage::aGroupIsJoined()
     QFETCH(int, group);
     QFETCH(Groups, expected);
     linkage->subscribe(symbols, true, group);
+    plugin->show();
     QCOMPARE(linkage->types(), QList<int>{symbols});
     QCOMPARE(linkage->group(), group);
     QCOMPARE(linkage->combo()->currentIndex(), qMax(-1, group));
@@ -255,6 +256,7 @@ void TestZrPluginLinkage::unsubscribeOfZeroLeavesAll()
 void TestZrPluginLinkage::unsubscribeOfAnUnknownTypeDoesNothing()
 {
     linkage->subscribe(symbols, true, 2);
+    plugin->show();
     linkage->unsubscribe(accounts);
     QCOMPARE(linkage->types(), QList<int>{symbols});
     QVERIFY(!linkage->combo()->isHidden());
