@@ -22,6 +22,7 @@ struct ZrWorkstationOptions
     QString recordFile; // description of the recording to write
     QString skin;
     QString faults;
+    QStringList open; // IDs of the plugins to open; empty: the blotter twice
     QString language; // empty: that of the locale
 
     static bool parse(const QStringList &arguments, ZrWorkstationOptions *options, QString *error);

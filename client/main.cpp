@@ -49,12 +49,15 @@ QString firstFolder(const QStringList &folders)
 
 ZrWorkstationPaths findPaths()
 {
-    const QString shared = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/zrwidget");
+    const QString program = QCoreApplication::applicationDirPath();
+    const QString shared = program + QStringLiteral("/../share/zrwidget");
     ZrWorkstationPaths paths;
     paths.skins = firstFolder({shared + QStringLiteral("/skin"), QStringLiteral(ZR_SOURCE_DIR "/skin")});
     paths.data = firstFolder({shared + QStringLiteral("/data"), QStringLiteral(ZR_SOURCE_DIR "/data")});
     paths.recordings = QStringList{firstFolder(
         {shared + QStringLiteral("/recordings"), QStringLiteral(ZR_SOURCE_DIR "/client/recordings")})};
+    paths.plugins = firstFolder(
+        {program + QStringLiteral("/" ZR_PLUGIN_PATH), program + QStringLiteral("/../lib/zrwidget/plugins")});
     return paths;
 }
 

@@ -37,7 +37,7 @@ void tst_ZrWorkstationOptions::eachFlagIsRead()
     const QStringList flags =
         line(QStringLiteral("--headless --seconds 2.5 --shots d --report r.json --feed f --speed 0 "
                             "--rate 50 --seed 4294967295 --skin light --faults drop=1 --lang en "
-                            "--record o.json --rows 9"));
+                            "--record o.json --rows 9 --open a,b"));
     QVERIFY2(ZrWorkstationOptions::parse(flags, &options, &error), qPrintable(error));
     QVERIFY(options.headless);
     QCOMPARE(options.seconds, 2.5);
@@ -45,6 +45,7 @@ void tst_ZrWorkstationOptions::eachFlagIsRead()
     QCOMPARE(options.rate, 50);
     QCOMPARE(options.seed, 4294967295u);
     QCOMPARE(options.maxRows, 9);
+    QCOMPARE(options.open, QStringList({QStringLiteral("a"), QStringLiteral("b")}));
     QCOMPARE(QStringList({options.shotsFolder, options.reportFile, options.feed, options.skin, options.faults,
                           options.language, options.recordFile}),
              QStringList({QStringLiteral("d"), QStringLiteral("r.json"), QStringLiteral("f"),
@@ -78,6 +79,10 @@ void tst_ZrWorkstationOptions::aBadFlagIsOneSentenceThatNamesIt_data()
                                     << "--seed wants a whole number";
     QTest::newRow("language") << "--lang fr"
                               << "--lang wants zh_CN or en, not \"fr\"";
+    QTest::newRow("a plugin without a name") << "--open a,,b"
+                                             << "--open wants one to 20 IDs";
+    QTest::newRow("too many plugins") << "--open a,b,c,d,e,f,g,h,i,j,k,l,m,n,o,p,q,r,s,t,u"
+                                      << "--open wants one to 20 IDs";
     QTest::newRow("empty file") << "--report="
                                 << "--report wants a value";
 }
@@ -96,7 +101,7 @@ void tst_ZrWorkstationOptions::aBadFlagIsOneSentenceThatNamesIt()
 void tst_ZrWorkstationOptions::theHelpNamesEachFlag()
 {
     for (const char *flag : {"headless", "seconds", "shots", "report", "feed", "speed", "rate", "seed",
-                             "skin", "faults", "lang"})
+                             "skin", "faults", "lang", "open"})
         QVERIFY2(ZrWorkstationOptions::helpText().contains(QStringLiteral("--") + QLatin1String(flag)), flag);
 }
 

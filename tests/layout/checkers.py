@@ -94,6 +94,10 @@ class Layers(Planted):
         self.write("plugins/depth/Depth.cpp", '#include "ZrHigh_p.h"\n')
         self.expect("layers", "plugins use only installed headers")
 
+    def test_plugin_uses_the_client(self):
+        self.write("plugins/depth/Depth.cpp", '#include "client/ZrClientFields.h"\n')
+        self.expect("layers", "plugins use only installed headers")
+
 
 class Sizes(Planted):
     def test_long_file(self):
@@ -174,6 +178,12 @@ class Texts(Planted):
     def test_not_translated(self):
         self.changed("zh_CN", Buy="")
         self.expect("texts", 'zh_CN.ts: "Buy" of ZrLow has no translation')
+
+    def test_plugin_brings_its_own(self):
+        self.write("plugins/depth/ZrDepth.cpp", 'class ZrDepth { void f() { tr("Bid"); } };\n')
+        self.file("plugins/depth/i18n/depth", "en", {})
+        self.file("plugins/depth/i18n/depth", "zh_CN", {})
+        self.expect("texts", 'depth_zh_CN.ts: misses "Bid" of ZrDepth')
 
     def test_chinese_in_english(self):
         self.changed("en", **{"\u786e\u8ba4": ""})

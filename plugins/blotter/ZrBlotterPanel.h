@@ -1,19 +1,29 @@
 #pragma once
 
 #include "ZrGridSetting.h"
-#include "ZrLatencyMeter.h"
 #include "ZrMessageInbox.h"
 
+#include <QtCore/QVector>
 #include <QtWidgets/QWidget>
 #include <zrutils/ZrRecordTypes.h>
 
 class ZrOrderBatch;
 class ZrTableView;
 
+/// What a batch of messages did to the grid.
+///
+/// Units: nanoseconds of the process's steady clock.
+struct ZrAppliedBatch
+{
+    qint64 number = -1; // the highest one of the messages
+    qint64 appliedNs = 0;
+    QVector<qint64> sentNs;    // of each message
+    QVector<qint64> inSightNs; // of those whose rows the next frame shows
+};
+
 /// The order blotter: orders and their reports in a grid, live.
 ///
 /// Shape:     columns by a column file; a row for each order, keyed by order number and symbol.
-/// Units:     times of messages and frames in nanoseconds of ZrSteadyClock.
 /// Ownership: normal QWidget parent rules.
 /// Threads:   GUI thread only.
 /// Errors:    a broken column file gives an empty grid and its parser's warning.
@@ -26,29 +36,32 @@ public:
     ZrTableView *view() const { return m_view; }
     /// Heads, widths and bands anew, as after a change of the serial column.
     void applyColumns();
-    /// Shows open orders only, through the grid's filter.
+    /// Shows open orders only, through the grid's filter; filters of other columns stay.
     void setOpenOnly(bool openOnly);
+    /// Shows the orders of one trading account only; empty for all.
+    void setAccount(const QString &tradingAccount);
     void setSummaryShown(bool shown);
     /// New rows come into sight.
     void setFollowing(bool following);
 
     void applyMessages(const std::vector<ZrInboxMessage> &messages);
-    /// A frame that showed the grid is on the screen.
-    void frameShown();
+    /// Selects the newest order of the security and brings it into sight; nothing without one.
+    void selectSecurity(const QString &symbol);
 
-    qint64 updatesApplied() const { return m_updates; }
-    qint64 frames() const { return m_frames; }
-    const ZrLatencyMeter &toModel() const { return m_toModel; }
-    const ZrLatencyMeter &toPixel() const { return m_toPixel; }
-    /// As toPixel(), since the last call of this.
-    ZrLatencyMeter takeRecentToPixel();
+signals:
+    void signalApplied(const ZrAppliedBatch &batch);
+    /// The user has clicked on an order of the security, or pressed return on it.
+    void signalSecurityChosen(const QString &symbol);
 
 private:
     ZrGridSetting translated(const ZrGridSetting &grid) const;
     void colourRow(const QVariantMap &message, RecordData *row) const;
     void recolour();
-    void noteTimes(const std::vector<ZrInboxMessage> &messages, const ZrOrderBatch &batch,
-                   const RecordDataList &rows);
+    void tellSecurity(const QModelIndex &index);
+    void setColumnFilter(int column, const QStringList &values);
+    std::vector<bool> rowsInSight(const RecordDataList &rows) const;
+    void tellApplied(const std::vector<ZrInboxMessage> &messages, const ZrOrderBatch &batch,
+                     const RecordDataList &rows);
     QList<int> columnsWithoutSum() const;
     int columnOf(const QString &field) const;
     QStringList keyFields() const;
@@ -57,11 +70,7 @@ private:
     ZrTableView *m_view;
     int m_sideColumn = -1;
     int m_statusColumn = -1;
+    int m_symbolColumn = -1;
+    int m_accountColumn = -1;
     QStringList m_keyFields; // fields of a message that name its order
-    qint64 m_updates = 0;
-    qint64 m_frames = 0;
-    ZrLatencyMeter m_toModel;
-    ZrLatencyMeter m_toPixel;
-    ZrLatencyMeter m_recent;
-    std::vector<qint64> m_unshownNs; // when the messages were sent whose rows the next frame shows
 };

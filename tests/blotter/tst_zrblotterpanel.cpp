@@ -1,6 +1,6 @@
 #include "FreezeTableView.h"
+#include "ZrBlotterFields.h"
 #include "ZrBlotterPanel.h"
-#include "ZrClientFields.h"
 #include "ZrFeedClock.h"
 #include "ZrQuietPlatform.h"
 #include "ZrReferenceHost.h"
@@ -28,8 +28,13 @@ private slots:
     void onlyOpenOrdersAreShownOnRequest();
     void theSummaryAddsSizesAndNoPrices();
     void newRowsComeIntoSightWhileFollowing();
-    void onlyRowsInSightCountForTheScreen();
-    void framesTakeTheLatencyOnce();
+    void aBatchIsTold();
+    void onlyRowsInSightAreToldAsShown();
+    void oneAccountIsShownOnRequest();
+    void aFilterOfAnotherColumnStays();
+    void aClickTellsTheSecurity();
+    void theNewestOrderOfASecurityIsSelected();
+    void aSecurityWithoutAnOrderSelectsNothing();
     void aBrokenColumnFileGivesAnEmptyGrid();
 
 private:
@@ -43,19 +48,19 @@ private:
 };
 
 namespace {
-const QString columnFile = QStringLiteral(ZR_CLIENT_COLUMNS "/blotter.xml");
+const QString columnFile = QStringLiteral(ZR_COLUMNS);
 enum Column { OrderNumber = 0, SideColumn = 4, PriceColumn = 7, QuantityColumn = 8, StatusColumn = 11 };
 
 ZrInboxMessage report(int order, const char *side = "1", const char *status = "0")
 {
     return {QStringLiteral("ExecutionReport"),
-            {{ZrClientFields::orderId, QString::number(order)},
+            {{ZrBlotterFields::orderId, QString::number(order)},
              {Vexlor_Fields::Security::symbol, "600000.SH"},
-             {ZrClientFields::side, side},
-             {ZrClientFields::orderStatus, status},
-             {ZrClientFields::price, 10.5},
-             {ZrClientFields::orderQty, 200.0},
-             {ZrClientFields::sentNs, ZrSteadyClock::steadyNs()}}};
+             {ZrBlotterFields::side, side},
+             {ZrBlotterFields::orderStatus, status},
+             {ZrBlotterFields::price, 10.5},
+             {ZrBlotterFields::orderQty, 200.0},
+             {ZrBlotterFields::sentNs, ZrSteadyClock::steadyNs()}}};
 }
 } // namespace
 
@@ -104,7 +109,6 @@ void tst_ZrBlotterPanel::eachOrderHasOneRow()
 {
     m_panel->applyMessages({report(1), report(2, "2"), report(1, "1", "2")});
     QCOMPARE(m_panel->view()->getRowCount(), 2);
-    QCOMPARE(m_panel->updatesApplied(), qint64(3));
     QCOMPARE(text(0, OrderNumber), QStringLiteral("1"));
     QCOMPARE(text(0, StatusColumn), QStringLiteral("Filled")); // the later report counts
     QCOMPARE(text(0, PriceColumn), QStringLiteral("10.500"));
@@ -135,7 +139,7 @@ void tst_ZrBlotterPanel::headsStandUnderTheirBands()
 void tst_ZrBlotterPanel::aSideHasItsColour()
 {
     ZrInboxMessage without = report(3);
-    without.record.remove(ZrClientFields::side);
+    without.record.remove(ZrBlotterFields::side);
     m_panel->applyMessages({report(1, "1"), report(2, "2"), without});
     QCOMPARE(colour(0), QColor(Qt::red));
     QCOMPARE(colour(1), QColor(Qt::green));
@@ -200,34 +204,110 @@ void tst_ZrBlotterPanel::newRowsComeIntoSightWhileFollowing()
     QCOMPARE(bar->value(), bar->maximum());
 }
 
-void tst_ZrBlotterPanel::onlyRowsInSightCountForTheScreen()
+void tst_ZrBlotterPanel::aBatchIsTold()
+{
+    ZrAppliedBatch told;
+    connect(m_panel.get(), &ZrBlotterPanel::signalApplied, this,
+            [&told](const ZrAppliedBatch &batch) { told = batch; });
+    std::vector<ZrInboxMessage> messages = {report(1), report(1), report(2)};
+    messages[0].record.insert(ZrBlotterFields::seqNo, 7);
+    messages[1].record.insert(ZrBlotterFields::seqNo, 12); // late: the highest one counts
+    messages[2].record.insert(ZrBlotterFields::seqNo, 9);
+    m_panel->applyMessages(messages);
+    QCOMPARE(told.number, qint64(12));
+    QCOMPARE(told.sentNs.size(), 3);
+    QCOMPARE(told.sentNs.at(2), messages[2].record.value(ZrBlotterFields::sentNs).toLongLong());
+    // The clock is that of the messages.
+    QVERIFY(told.appliedNs >= told.sentNs.at(2));
+    QVERIFY(told.appliedNs <= ZrSteadyClock::steadyNs());
+}
+
+void tst_ZrBlotterPanel::onlyRowsInSightAreToldAsShown()
 {
     apply(0, 200);
     m_panel->setFollowing(false);
     m_panel->view()->getTableView()->scrollToTop();
     QCoreApplication::processEvents();
-    m_panel->frameShown();
-    const qint64 before = m_panel->toPixel().count();
-    const qint64 modelBefore = m_panel->toModel().count();
-    m_panel->applyMessages({report(0, "1", "1"), report(199, "1", "1"), report(1, "1", "1")});
-    m_panel->frameShown();
-    QCOMPARE(m_panel->toPixel().count(), before + 2); // the first two rows, not the last one
-    QCOMPARE(m_panel->toModel().count(), modelBefore + 3);
+    ZrAppliedBatch told;
+    connect(m_panel.get(), &ZrBlotterPanel::signalApplied, this,
+            [&told](const ZrAppliedBatch &batch) { told = batch; });
+    const std::vector<ZrInboxMessage> messages = {report(0, "1", "1"), report(199, "1", "1"),
+                                                  report(1, "1", "1")};
+    m_panel->applyMessages(messages);
+    QCOMPARE(told.sentNs.size(), 3);
+    QCOMPARE(told.inSightNs, (QVector<qint64>{told.sentNs.at(0), told.sentNs.at(2)}));
 }
 
-void tst_ZrBlotterPanel::framesTakeTheLatencyOnce()
+void tst_ZrBlotterPanel::oneAccountIsShownOnRequest()
 {
-    m_panel->applyMessages({report(1)});
-    QCOMPARE(m_panel->toPixel().count(), qint64(0)); // no frame has shown it
-    const qint64 frames = m_panel->frames();
-    m_panel->frameShown();
-    m_panel->frameShown();
-    QCOMPARE(m_panel->frames(), frames + 2);
-    QCOMPARE(m_panel->toPixel().count(), qint64(1));
-    QVERIFY(m_panel->toPixel().maxUs() >= m_panel->toModel().maxUs());
-    QCOMPARE(m_panel->takeRecentToPixel().count(), qint64(1));
-    QCOMPARE(m_panel->takeRecentToPixel().count(), qint64(0));
-    QCOMPARE(m_panel->toPixel().count(), qint64(1)); // of the whole run
+    m_panel->view()->setViewFilterable(true);
+    std::vector<ZrInboxMessage> messages = {report(1), report(2), report(3)};
+    messages[0].record.insert(Vexlor_Fields::UserAccount::tradingAccount, "A1");
+    messages[1].record.insert(Vexlor_Fields::UserAccount::tradingAccount, "A2");
+    messages[2].record.insert(Vexlor_Fields::UserAccount::tradingAccount, "A2");
+    m_panel->applyMessages(messages);
+    m_panel->setAccount(QStringLiteral("A2"));
+    QCOMPARE(m_panel->view()->getRowCount(), 2);
+    QCOMPARE(text(0, OrderNumber), QStringLiteral("2"));
+    m_panel->setAccount(QStringLiteral("A3"));
+    QCOMPARE(m_panel->view()->getRowCount(), 0);
+    m_panel->setAccount(QString());
+    QCOMPARE(m_panel->view()->getRowCount(), 3);
+}
+
+void tst_ZrBlotterPanel::aFilterOfAnotherColumnStays()
+{
+    m_panel->view()->setViewFilterable(true);
+    std::vector<ZrInboxMessage> messages = {report(1, "1", "0"), report(2, "1", "2"), report(3, "1", "0")};
+    messages[0].record.insert(Vexlor_Fields::UserAccount::tradingAccount, "A1");
+    messages[1].record.insert(Vexlor_Fields::UserAccount::tradingAccount, "A1");
+    messages[2].record.insert(Vexlor_Fields::UserAccount::tradingAccount, "A2");
+    m_panel->applyMessages(messages);
+    m_panel->setAccount(QStringLiteral("A1"));
+    m_panel->setOpenOnly(true);
+    QCOMPARE(m_panel->view()->getRowCount(), 1);
+    m_panel->setOpenOnly(false);
+    QCOMPARE(m_panel->view()->getRowCount(), 2);
+    m_panel->setAccount(QString());
+    QCOMPARE(m_panel->view()->getRowCount(), 3);
+}
+
+void tst_ZrBlotterPanel::aClickTellsTheSecurity()
+{
+    ZrInboxMessage elsewhere = report(2);
+    elsewhere.record.insert(Vexlor_Fields::Security::symbol, "000001.SZ");
+    m_panel->applyMessages({report(1), elsewhere});
+    QSignalSpy told(m_panel.get(), &ZrBlotterPanel::signalSecurityChosen);
+    QTableView *const table = m_panel->view()->getTableView();
+    const QRect cell = table->visualRect(m_panel->view()->index(1, QuantityColumn));
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
+    QTRY_COMPARE(told.size(), 1);
+    QCOMPARE(told.at(0).at(0).toString(), QStringLiteral("000001.SZ"));
+}
+
+void tst_ZrBlotterPanel::theNewestOrderOfASecurityIsSelected()
+{
+    ZrInboxMessage elsewhere = report(2);
+    elsewhere.record.insert(Vexlor_Fields::Security::symbol, "000001.SZ");
+    m_panel->applyMessages({report(1), report(3), elsewhere});
+    QSignalSpy told(m_panel.get(), &ZrBlotterPanel::signalSecurityChosen);
+    m_panel->selectSecurity(QStringLiteral("600000.SH"));
+    QCOMPARE(m_panel->view()->currentIndex().row(), 1);
+    QVERIFY(m_panel->view()->getTableView()->selectionModel()->isRowSelected(1, QModelIndex()));
+    m_panel->selectSecurity(QStringLiteral("000001.SZ"));
+    QCOMPARE(m_panel->view()->currentIndex().row(), 2);
+    // It was no click of the user's: two linked grids would tell each other for ever.
+    QCOMPARE(told.size(), 0);
+}
+
+void tst_ZrBlotterPanel::aSecurityWithoutAnOrderSelectsNothing()
+{
+    m_panel->applyMessages({report(1), report(3)});
+    m_panel->selectSecurity(QStringLiteral("600000.SH"));
+    const QModelIndex before = m_panel->view()->currentIndex();
+    m_panel->selectSecurity(QStringLiteral("999999.SH"));
+    m_panel->selectSecurity(QString());
+    QCOMPARE(m_panel->view()->currentIndex(), before);
 }
 
 void tst_ZrBlotterPanel::aBrokenColumnFileGivesAnEmptyGrid()
@@ -241,8 +321,9 @@ void tst_ZrBlotterPanel::aBrokenColumnFileGivesAnEmptyGrid()
     QCOMPARE(panel.view()->getHeadList().size(), 0);
     panel.setOpenOnly(true);
     panel.setSummaryShown(true);
+    panel.setAccount(QStringLiteral("A1"));
     panel.applyMessages({report(1)});
-    QCOMPARE(panel.updatesApplied(), qint64(1));
+    panel.selectSecurity(QStringLiteral("600000.SH"));
     emit ZrCore::instance()->signalSkinChanged(QStringLiteral("another"));
 }
 

@@ -6,8 +6,7 @@
 #include "ZrTablePropertySet.h"
 #include "ZrTableView.h"
 
-#include "feed/ZrFeedClock.h"
-#include "ZrClientFields.h"
+#include "ZrBlotterFields.h"
 #include "ZrColumnTexts.h"
 #include "ZrOrderBatch.h"
 
@@ -17,17 +16,25 @@
 
 #include <QtWidgets/QVBoxLayout>
 
+#include <chrono>
+
 namespace {
 const QString colourRole = QString::number(Qt::ForegroundRole);
 const QString rawRole = QString::number(Qt::UserRole);
 
 bool isSummable(const ZrFieldSetting &field)
 {
-    const QStringList summed = {ZrClientFields::orderQty,     ZrClientFields::orderValue,
-                                ZrClientFields::cumQty,       ZrClientFields::leavesQty,
-                                ZrClientFields::cancelledQty, ZrClientFields::filledValue,
-                                ZrClientFields::fillCount};
+    const QStringList summed = {ZrBlotterFields::orderQty,     ZrBlotterFields::orderValue,
+                                ZrBlotterFields::cumQty,       ZrBlotterFields::leavesQty,
+                                ZrBlotterFields::cancelledQty, ZrBlotterFields::filledValue,
+                                ZrBlotterFields::fillCount};
     return summed.contains(field.fieldNumber);
+}
+
+qint64 steadyNs()
+{
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::nanoseconds>(now).count();
 }
 
 QVariantMap equals(const QString &value)
@@ -47,8 +54,10 @@ ZrBlotterPanel::ZrBlotterPanel(const QString &columnFile, QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_view);
     m_grid = translated(ZrParseTableColsCfg::parseGridConfigure(columnFile));
-    m_sideColumn = columnOf(ZrClientFields::side);
-    m_statusColumn = columnOf(ZrClientFields::orderStatus);
+    m_sideColumn = columnOf(ZrBlotterFields::side);
+    m_statusColumn = columnOf(ZrBlotterFields::orderStatus);
+    m_symbolColumn = columnOf(Vexlor_Fields::Security::symbol);
+    m_accountColumn = columnOf(Vexlor_Fields::UserAccount::tradingAccount);
     m_keyFields = keyFields();
     applyColumns();
     m_view->SetAlternatingRowColors(true);
@@ -56,6 +65,8 @@ ZrBlotterPanel::ZrBlotterPanel(const QString &columnFile, QWidget *parent)
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_view->setHeadSectionMovable(true);
     setFollowing(true);
+    connect(m_view, &ZrTableView::clicked, this, &ZrBlotterPanel::tellSecurity);
+    connect(m_view, &ZrTableView::activated, this, &ZrBlotterPanel::tellSecurity);
     // The skin's sheet reaches the grid before this signal: its colours are already the new ones.
     connect(ZrCore::instance(), &ZrCore::signalSkinChanged, this, &ZrBlotterPanel::recolour);
 }
@@ -130,19 +141,52 @@ void ZrBlotterPanel::setFollowing(bool following)
         m_view->getTableView()->scrollToBottom();
 }
 
-void ZrBlotterPanel::setOpenOnly(bool openOnly)
+void ZrBlotterPanel::setColumnFilter(int column, const QStringList &values)
 {
-    ViewFilterList filters;
-    if (openOnly && m_statusColumn >= 0)
-        filters.insert(m_statusColumn, {{equals(QStringLiteral("0"))}, {equals(QStringLiteral("1"))}});
+    if (column < 0)
+        return;
+    ViewFilterList filters = m_view->getViewCurrentFilterList();
+    filters.remove(column);
+    for (const QString &value : values)
+        filters[column].append({equals(value)});
     m_view->resetViewCurrentFilterList(filters);
     m_view->getZrTableModel()->update(); // the list is taken over without one
+}
+
+void ZrBlotterPanel::setOpenOnly(bool openOnly)
+{
+    setColumnFilter(m_statusColumn,
+                    openOnly ? QStringList{QStringLiteral("0"), QStringLiteral("1")} : QStringList());
+}
+
+void ZrBlotterPanel::setAccount(const QString &tradingAccount)
+{
+    setColumnFilter(m_accountColumn, tradingAccount.isEmpty() ? QStringList() : QStringList{tradingAccount});
+}
+
+void ZrBlotterPanel::tellSecurity(const QModelIndex &index)
+{
+    const QString symbol = m_view->getRowData(index.row()).value(m_symbolColumn).value(rawRole).toString();
+    if (!symbol.isEmpty())
+        emit signalSecurityChosen(symbol);
+}
+
+void ZrBlotterPanel::selectSecurity(const QString &symbol)
+{
+    // From the end: that is where new orders come, and where a grid that follows them looks.
+    for (int row = m_view->getRowCount() - 1; row >= 0; --row) {
+        if (m_view->getRowData(row).value(m_symbolColumn).value(rawRole).toString() != symbol)
+            continue;
+        const int column = qMax(0, m_view->getTableView()->columnAt(0));
+        m_view->setCurrentIndex(m_view->index(row, column), true);
+        return;
+    }
 }
 
 void ZrBlotterPanel::colourRow(const QVariantMap &message, RecordData *row) const
 {
     // Buyers' colour is that of rising prices.
-    const QString side = message.value(ZrClientFields::side).toString();
+    const QString side = message.value(ZrBlotterFields::side).toString();
     const QColor colour = side == QLatin1String("1") ? m_view->upColor() : m_view->downColor();
     if (m_sideColumn >= 0 && colour.isValid() && !side.isEmpty())
         (*row)[m_sideColumn].insert(colourRole, colour);
@@ -158,7 +202,7 @@ void ZrBlotterPanel::recolour()
         RecordData change;
         for (const int column : keyColumns)
             change.insert(column, row.value(column));
-        colourRow({{ZrClientFields::side, row.value(m_sideColumn).value(rawRole)}}, &change);
+        colourRow({{ZrBlotterFields::side, row.value(m_sideColumn).value(rawRole)}}, &change);
         changes.append(change);
     }
     m_view->updataRecordDatas(changes);
@@ -176,46 +220,38 @@ void ZrBlotterPanel::applyMessages(const std::vector<ZrInboxMessage> &messages)
         rows.append(row);
     }
     m_view->addRecordDataList(rows);
-    m_updates += qint64(messages.size());
-    noteTimes(messages, batch, rows);
+    tellApplied(messages, batch, rows);
 }
 
-void ZrBlotterPanel::noteTimes(const std::vector<ZrInboxMessage> &messages, const ZrOrderBatch &batch,
-                               const RecordDataList &rows)
+// Only a row in sight is shown by the next frame; no row at the bottom edge means that all fit.
+std::vector<bool> ZrBlotterPanel::rowsInSight(const RecordDataList &rows) const
 {
-    const qint64 nowNs = ZrSteadyClock::steadyNs();
     const QTableView *const table = m_view->getTableView();
     const int first = table->rowAt(0);
     const int last = table->rowAt(table->viewport()->height() - 1);
     std::vector<bool> inSight;
     inSight.reserve(size_t(rows.size()));
     for (const RecordData &record : rows) {
-        // Only a row in sight is shown by the next frame; no row at the bottom edge means all fit.
         const int row = m_view->getRowByKey(ZrTablePropertySet::getRecordKeyString(m_grid, record));
         inSight.push_back(row >= 0 && row >= first && (last < 0 || row <= last));
     }
+    return inSight;
+}
+
+void ZrBlotterPanel::tellApplied(const std::vector<ZrInboxMessage> &messages, const ZrOrderBatch &batch,
+                                 const RecordDataList &rows)
+{
+    ZrAppliedBatch applied;
+    applied.appliedNs = steadyNs();
+    applied.sentNs.reserve(int(messages.size()));
+    const std::vector<bool> inSight = rowsInSight(rows);
     for (size_t i = 0; i < messages.size(); ++i) {
-        const qint64 sentNs = messages[i].record.value(ZrClientFields::sentNs).toLongLong();
-        m_toModel.add(nowNs - sentNs);
+        const QVariantMap &record = messages[i].record;
+        const qint64 sentNs = record.value(ZrBlotterFields::sentNs).toLongLong();
+        applied.number = qMax(applied.number, record.value(ZrBlotterFields::seqNo, -1).toLongLong());
+        applied.sentNs.append(sentNs);
         if (inSight[batch.recordOf(i)])
-            m_unshownNs.push_back(sentNs);
+            applied.inSightNs.append(sentNs);
     }
-}
-
-void ZrBlotterPanel::frameShown()
-{
-    const qint64 nowNs = ZrSteadyClock::steadyNs();
-    ++m_frames;
-    for (const qint64 sentNs : m_unshownNs) {
-        m_toPixel.add(nowNs - sentNs);
-        m_recent.add(nowNs - sentNs);
-    }
-    m_unshownNs.clear();
-}
-
-ZrLatencyMeter ZrBlotterPanel::takeRecentToPixel()
-{
-    const ZrLatencyMeter result = m_recent;
-    m_recent.clear();
-    return result;
+    emit signalApplied(applied);
 }

@@ -14,16 +14,13 @@ constexpr int FrozenRight = 1;
 constexpr ushort DelayMs = 200;
 } // namespace
 
-ZrBlotterToolBar::ZrBlotterToolBar(ZrBlotterPanel *panel, const QStringList &skins, const QString &skin,
-                                   int maxRows, QWidget *parent)
+ZrBlotterToolBar::ZrBlotterToolBar(ZrBlotterPanel *panel, int maxRows, QWidget *parent)
     : QToolBar(parent)
     , m_panel(panel)
 {
     setObjectName(QStringLiteral("blotterToolBar"));
     setWindowTitle(tr("Blotter"));
     setMovable(false);
-    addSkins(skins, skin);
-    addSeparator();
     addToggles();
     addSeparator();
     addSerial();
@@ -56,20 +53,6 @@ QComboBox *ZrBlotterToolBar::addChoice(const QString &label, const QString &tip)
     addWidget(caption);
     addWidget(choice);
     return choice;
-}
-
-void ZrBlotterToolBar::addSkins(const QStringList &skins, const QString &skin)
-{
-    QComboBox *const choice = addChoice(tr("Skin"), tr("Colours and pictures of all windows"));
-    for (const QString &id : skins) {
-        const QString text = id == QLatin1String("dark")    ? tr("Dark")
-                             : id == QLatin1String("light") ? tr("Light")
-                                                            : id;
-        choice->addItem(text, id);
-    }
-    choice->setCurrentIndex(choice->findData(skin));
-    connect(choice, qOverload<int>(&QComboBox::currentIndexChanged), this,
-            [this, choice](int index) { emit signalSkinChosen(choice->itemData(index).toString()); });
 }
 
 void ZrBlotterToolBar::addToggles()

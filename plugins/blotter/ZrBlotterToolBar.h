@@ -5,28 +5,23 @@
 class QComboBox;
 class ZrBlotterPanel;
 
-/// Tries what the grid can do: skin, frozen columns, check boxes, serial numbers, filter, summary, delayed
+/// Tries what the grid can do: frozen columns, check boxes, serial numbers, filter, summary, delayed
 /// display, row limit.
 ///
-/// Ownership: normal QWidget parent rules; borrows the panel, which lives as long as the window.
+/// Ownership: normal QWidget parent rules; borrows the panel, which lives as long as the plugin.
 /// Threads:   GUI thread only.
 class ZrBlotterToolBar : public QToolBar
 {
     Q_OBJECT
 public:
-    ZrBlotterToolBar(ZrBlotterPanel *panel, const QStringList &skins, const QString &skin, int maxRows,
-                     QWidget *parent = nullptr);
+    ZrBlotterToolBar(ZrBlotterPanel *panel, int maxRows, QWidget *parent = nullptr);
 
     /// The toggle of that name, null when there is none: "freezeLeft", "freezeRight", "checkBoxes", "follow",
     /// "openOnly", "summary", "delayed".
     QAction *toggle(const QString &name) const;
 
-signals:
-    void signalSkinChosen(const QString &skin);
-
 private:
     QAction *addToggle(const char *name, const QString &text, const QString &tip);
-    void addSkins(const QStringList &skins, const QString &skin);
     void addToggles();
     void addSerial();
     void addRowLimit(int maxRows);

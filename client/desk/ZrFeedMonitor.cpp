@@ -1,13 +1,14 @@
-#include "ZrBlotterPresenter.h"
+#include "ZrFeedMonitor.h"
 
 #include "ZrClientFields.h"
-#include "ZrMessageInbox.h"
 
 #include "zrdefine/VexlorMsgType.h"
 #include "zrmsg/CUnPackMessageCommon.h"
 
 namespace {
 constexpr qint64 MostNumbers = Q_INT64_C(2000000000); // a quarter of a gigabyte of marks
+constexpr int Subscribe = 1;
+constexpr int Unsubscribe = 2;
 
 QStringList messageTypes()
 {
@@ -16,36 +17,35 @@ QStringList messageTypes()
 }
 } // namespace
 
-ZrBlotterPresenter::ZrBlotterPresenter(const QString &pluginPid, ZrMessageInbox *inbox)
+ZrFeedMonitor::ZrFeedMonitor(const QString &pluginPid)
     : ZrPresenterClass(pluginPid, nullptr, IMessageInterface::PresenterAndReceiverThread)
-    , m_inbox(inbox)
 {
 }
 
-void ZrBlotterPresenter::open()
+void ZrFeedMonitor::open()
 {
     const QStringList types = messageTypes();
     for (const QString &type : types)
-        Sub(pluginPid(), type, 1);
+        Sub(pluginPid(), type, Subscribe);
 }
 
-void ZrBlotterPresenter::detach()
+void ZrFeedMonitor::detach()
 {
     const QStringList types = messageTypes();
     for (const QString &type : types)
-        Sub(pluginPid(), type, 2);
+        Sub(pluginPid(), type, Unsubscribe);
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_inbox = nullptr;
+    m_open = false;
     m_seen = nullptr;
 }
 
-void ZrBlotterPresenter::setSeenCall(const std::function<void(qint64)> &seen)
+void ZrFeedMonitor::setSeenCall(const SeenCall &seen)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_seen = seen;
 }
 
-void ZrBlotterPresenter::count(qint64 number)
+void ZrFeedMonitor::count(qint64 number)
 {
     ++m_received;
     if (number < 0 || number >= MostNumbers)
@@ -57,7 +57,7 @@ void ZrBlotterPresenter::count(qint64 number)
     m_numbers[size_t(number)] = true;
 }
 
-void ZrBlotterPresenter::ProcMsg(QString pid, QVariant msgType, QVariant msg)
+void ZrFeedMonitor::ProcMsg(QString pid, QVariant msgType, QVariant msg)
 {
     Q_UNUSED(pid)
     CUnPackMessageCommon reader;
@@ -66,12 +66,12 @@ void ZrBlotterPresenter::ProcMsg(QString pid, QVariant msgType, QVariant msg)
     const bool isOrder = type == ZrClientMsgType::order || type == Vexlor_MsgType::executionReport;
     const QList<QVariantMap> records = reader.GetAllValue();
     const std::lock_guard<std::mutex> lock(m_mutex);
+    if (!m_open)
+        return;
     for (const QVariantMap &record : records) {
         const qint64 number = record.value(ZrClientFields::seqNo, -1).toLongLong();
         count(number);
-        if (m_inbox && isOrder)
-            m_inbox->put({type, record});
         if (m_seen)
-            m_seen(number);
+            m_seen(number, isOrder);
     }
 }
