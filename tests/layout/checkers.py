@@ -181,9 +181,9 @@ class Texts(Planted):
 
     def test_plugin_brings_its_own(self):
         self.write("plugins/depth/ZrDepth.cpp", 'class ZrDepth { void f() { tr("Bid"); } };\n')
-        self.file("plugins/depth/i18n/depth", "en", {})
-        self.file("plugins/depth/i18n/depth", "zh_CN", {})
-        self.expect("texts", 'depth_zh_CN.ts: misses "Bid" of ZrDepth')
+        for language in ("en", "zh_CN"):
+            self.file("plugins/depth/i18n/depth", language, {})
+        self.expect("texts", 'depth_en.ts: misses "Bid" of ZrDepth', 'depth_zh_CN.ts: misses "Bid" of ZrDepth')
 
     def test_chinese_in_english(self):
         self.changed("en", **{"\u786e\u8ba4": ""})
