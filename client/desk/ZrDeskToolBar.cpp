@@ -25,7 +25,7 @@ ZrDeskToolBar::ZrDeskToolBar(const QStringList &skins, const QString &skin, QWid
     setMovable(false);
     addSkins(skins, skin);
     addSeparator();
-    addMenu(QStringLiteral("pluginsButton"), tr("Open plugin"), tr("Another plugin on the desk"), m_plugins);
+    addMenu(QStringLiteral("openPluginButton"), tr("Open plugin"), tr("Another plugin on the desk"), m_plugins);
     setPlugins({});
 }
 
@@ -72,5 +72,5 @@ void ZrDeskToolBar::setPlugins(const QList<QPair<QString, QString>> &plugins)
         connect(m_plugins->addAction(asEntry(title)), &QAction::triggered, this,
                 [this, id] { emit signalPluginChosen(id); });
     }
-    findChild<QToolButton *>(QStringLiteral("pluginsButton"))->setEnabled(!plugins.isEmpty());
+    findChild<QToolButton *>(QStringLiteral("openPluginButton"))->setEnabled(!plugins.isEmpty());
 }

@@ -19,9 +19,9 @@ private slots:
 namespace {
 const QStringList skins = {QStringLiteral("dark"), QStringLiteral("light"), QStringLiteral("own")};
 
-QToolButton *pluginsButton(const ZrDeskToolBar &bar)
+QToolButton *openPluginButton(const ZrDeskToolBar &bar)
 {
-    return bar.findChild<QToolButton *>(QStringLiteral("pluginsButton"));
+    return bar.findChild<QToolButton *>(QStringLiteral("openPluginButton"));
 }
 } // namespace
 
@@ -45,18 +45,18 @@ void tst_ZrDeskToolBar::aSkinIsTold()
 void tst_ZrDeskToolBar::eachPluginCanBeOpened()
 {
     ZrDeskToolBar bar(skins, QStringLiteral("dark"));
-    QVERIFY(!pluginsButton(bar)->isEnabled());
+    QVERIFY(!openPluginButton(bar)->isEnabled());
     bar.setPlugins({{QStringLiteral("a"), QStringLiteral("First")}, {QStringLiteral("b"), QString()}});
-    QVERIFY(pluginsButton(bar)->isEnabled());
+    QVERIFY(openPluginButton(bar)->isEnabled());
     QSignalSpy chosen(&bar, &ZrDeskToolBar::signalPluginChosen);
-    const QList<QAction *> actions = pluginsButton(bar)->menu()->actions();
+    const QList<QAction *> actions = openPluginButton(bar)->menu()->actions();
     QCOMPARE(actions.size(), 2);
     QCOMPARE(actions.at(0)->text(), QStringLiteral("First"));
     QCOMPARE(actions.at(1)->text(), QStringLiteral("b")); // without a title the ID
     actions.at(1)->trigger();
     QCOMPARE(chosen.at(0).at(0).toString(), QStringLiteral("b"));
     bar.setPlugins({});
-    QVERIFY(!pluginsButton(bar)->isEnabled());
+    QVERIFY(!openPluginButton(bar)->isEnabled());
 }
 
 void tst_ZrDeskToolBar::aTitleFromAFileIsNoShortcut()
@@ -64,7 +64,7 @@ void tst_ZrDeskToolBar::aTitleFromAFileIsNoShortcut()
     ZrDeskToolBar bar(skins, QStringLiteral("dark"));
     bar.setPlugins(
         {{QStringLiteral("a"), QStringLiteral("Fish &\nChips") + QString(5000, QLatin1Char('w'))}});
-    const QString text = pluginsButton(bar)->menu()->actions().constFirst()->text();
+    const QString text = openPluginButton(bar)->menu()->actions().constFirst()->text();
     QVERIFY(text.startsWith(QLatin1String("Fish && Chips")));
     QVERIFY(text.size() < 110);
 }
