@@ -6,6 +6,8 @@
 
 class ZrBlotterPanel;
 class ZrBlotterToolBar;
+class ZrPluginCatalogue;
+class ZrPluginsPanel;
 class ZrShowcaseDocks;
 class ZrStatusLine;
 
@@ -25,6 +27,11 @@ public:
     ZrBlotterToolBar *toolBar() const { return m_toolBar; }
     ZrStatusLine *statusLine() const { return m_status; }
     ZrShowcaseDocks *showcase() const { return m_showcase; }
+    ZrPluginsPanel *plugins() const { return m_plugins; }
+
+    /// Adds the dock of the plugin files with its button. It comes to the front when a plugin ended the last
+    /// start and stays closed otherwise. The catalogue is borrowed.
+    void addPlugins(ZrPluginCatalogue *catalogue);
 
 signals:
     void signalSkinChosen(const QString &skin);
@@ -41,4 +48,5 @@ private:
     ZrBlotterToolBar *m_toolBar;
     ZrStatusLine *m_status;
     ZrShowcaseDocks *m_showcase = nullptr;
+    ZrPluginsPanel *m_plugins = nullptr;
 };

@@ -9,11 +9,13 @@
 #include "ZrFeedFactory.h"
 #include "ZrMainWindow.h"
 #include "ZrMessageInbox.h"
+#include "ZrPluginCatalogue.h"
 #include "ZrShots.h"
 #include "ZrStatusLine.h"
 #include "ZrTableView.h"
 
 #include "zrcore/ZrCore.h"
+#include "zrcore/ZrCoreHost.h"
 #include "ZrReferenceHost.h"
 
 #include <QtCore/QLocale>
@@ -58,6 +60,8 @@ QString ZrWorkstation::start()
 {
     QString error = startHost();
     if (error.isEmpty())
+        error = loadPlugins();
+    if (error.isEmpty())
         error = makeFeed();
     if (!error.isEmpty())
         return error;
@@ -80,6 +84,23 @@ QString ZrWorkstation::startHost()
     host.faults = m_options.faults;
     host.database.language = languageOf(m_options);
     return m_host->start(host) ? QString() : m_host->errorText();
+}
+
+QString ZrWorkstation::loadPlugins()
+{
+    m_plugins =
+        std::make_unique<ZrPluginCatalogue>([this](const QString &id, ZrPluginCatalogue::Maker maker) {
+            m_host->registerPlugin(id, std::move(maker));
+        });
+    const QString folder = m_options.pluginFolder.isEmpty() ? m_paths.plugins : m_options.pluginFolder;
+    ZrPluginCatalogue::Options options;
+    options.folder = m_options.noPlugins ? QString() : folder;
+    options.manifest = m_options.pluginManifest;
+    options.stateFolder = ZrCoreHost::instance().configFolder();
+    const QString error = m_plugins->scan(options);
+    if (error.isEmpty())
+        m_plugins->loadAll();
+    return error;
 }
 
 QString ZrWorkstation::makeFeed()
@@ -106,6 +127,7 @@ void ZrWorkstation::makeWindow()
     m_window = std::make_unique<ZrMainWindow>(m_host->skinIds(), ZrCore::instance()->getCurrentSkinId(),
                                               m_options.maxRows);
     m_host->setMainWindow(m_window.get());
+    m_window->addPlugins(m_plugins.get());
     m_window->statusLine()->setFeed(m_options.feed.isEmpty() ? QStringLiteral("simulator") : m_options.feed);
     connect(m_window.get(), &ZrMainWindow::signalSkinChosen, this,
             [this](const QString &skin) { m_host->setSkin(skin); });

@@ -14,6 +14,7 @@ class ZrClientApplication;
 class ZrFeedPlayer;
 class ZrMainWindow;
 class ZrMessageInbox;
+class ZrPluginCatalogue;
 class ZrRecordingTee;
 class ZrReferenceHost;
 class ZrSteadyClock;
@@ -25,7 +26,8 @@ struct ZrWorkstationPaths
     QString skins;
     QString data; // pictures outside of any skin
     QStringList recordings;
-    QString config; // empty: the user's own folder
+    QString config;  // empty: the user's own folder
+    QString plugins; // empty for none
 };
 
 /// One run of the workstation: host, feed, bus, window, and what it came to.
@@ -47,6 +49,8 @@ public:
     QString finish();
 
     ZrMainWindow *window() const { return m_window.get(); }
+    /// The plugin files, once start() has gone well; lives longer than the window.
+    ZrPluginCatalogue *plugins() const { return m_plugins.get(); }
     const ZrRunReport &report() const { return m_report; }
     /// Lines of the recording that were left out, for people; empty when there were none.
     QString problems() const { return m_problems; }
@@ -56,6 +60,7 @@ signals:
 
 private:
     QString startHost();
+    QString loadPlugins();
     QString makeFeed();
     void makeWindow();
     void connectBus();
@@ -70,6 +75,7 @@ private:
     const ZrWorkstationPaths m_paths;
     ZrClientApplication *const m_app; // not owned
     std::unique_ptr<ZrReferenceHost> m_host;
+    std::unique_ptr<ZrPluginCatalogue> m_plugins;
     std::unique_ptr<ZrMainWindow> m_window;
     std::unique_ptr<ZrMessageInbox> m_inbox;
     std::unique_ptr<ZrSteadyClock> m_clock;
