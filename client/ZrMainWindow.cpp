@@ -3,8 +3,7 @@
 #include "showcase/ZrShowcaseDocks.h"
 #include "ZrBlotterPanel.h"
 #include "ZrBlotterToolBar.h"
-#include "ZrPluginCatalogue.h"
-#include "ZrPluginsPanel.h"
+#include "ZrPluginsDock.h"
 #include "ZrStatusLine.h"
 #include "ZrTableView.h"
 
@@ -58,24 +57,9 @@ void ZrMainWindow::addShowcaseButton()
 
 void ZrMainWindow::addPlugins(ZrPluginCatalogue *catalogue)
 {
-    auto *const dock = new QDockWidget(tr("Plugins"), this);
-    dock->setObjectName(QStringLiteral("plugins"));
-    m_plugins = new ZrPluginsPanel(catalogue, dock);
-    dock->setWidget(m_plugins);
-    addDockWidget(Qt::TopDockWidgetArea, dock);
-    tabifyDockWidget(findChild<QDockWidget *>(QStringLiteral("blotter"), Qt::FindDirectChildrenOnly), dock);
-    auto *const button = new QToolButton(m_toolBar);
-    button->setObjectName(QStringLiteral("pluginsButton"));
-    button->setDefaultAction(dock->toggleViewAction());
-    button->setToolTip(tr("Which plugin files are loaded, and why others are not"));
-    m_toolBar->addWidget(button);
-    // Shown alone it would stay behind the dock that it shares its place with.
-    connect(dock->toggleViewAction(), &QAction::triggered, dock, [dock](bool shown) {
-        if (shown)
-            dock->raise();
-    });
-    dock->setVisible(!catalogue->endedLastStart().isEmpty());
-    dock->raise();
+    m_plugins = new ZrPluginsDock(catalogue, this);
+    m_plugins->placeIn(this, findChild<QDockWidget *>(QStringLiteral("blotter"), Qt::FindDirectChildrenOnly));
+    m_toolBar->addWidget(m_plugins->makeButton(m_toolBar));
 }
 
 void ZrMainWindow::loadSkin(const QVariant &css)

@@ -7,7 +7,7 @@
 class ZrBlotterPanel;
 class ZrBlotterToolBar;
 class ZrPluginCatalogue;
-class ZrPluginsPanel;
+class ZrPluginsDock;
 class ZrShowcaseDocks;
 class ZrStatusLine;
 
@@ -27,7 +27,7 @@ public:
     ZrBlotterToolBar *toolBar() const { return m_toolBar; }
     ZrStatusLine *statusLine() const { return m_status; }
     ZrShowcaseDocks *showcase() const { return m_showcase; }
-    ZrPluginsPanel *plugins() const { return m_plugins; }
+    ZrPluginsDock *plugins() const { return m_plugins; }
 
     /// Adds the dock of the plugin files with its button. It comes to the front when a plugin ended the last
     /// start and stays closed otherwise. The catalogue is borrowed.
@@ -48,5 +48,5 @@ private:
     ZrBlotterToolBar *m_toolBar;
     ZrStatusLine *m_status;
     ZrShowcaseDocks *m_showcase = nullptr;
-    ZrPluginsPanel *m_plugins = nullptr;
+    ZrPluginsDock *m_plugins = nullptr;
 };

@@ -269,14 +269,6 @@
         <source>A page for each widget, with all its states</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>Plugins</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Which plugin files are loaded, and why others are not</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>ZrShowcase</name>
@@ -1075,6 +1067,17 @@
     </message>
     <message>
         <source>The choice cannot be kept: the configuration folder cannot be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrPluginsDock</name>
+    <message>
+        <source>Plugins</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which plugin files are loaded, and why others are not</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

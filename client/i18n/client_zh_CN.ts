@@ -269,14 +269,6 @@
         <source>A page for each widget, with all its states</source>
         <translation>每个控件一页，列出它的各种状态</translation>
     </message>
-    <message>
-        <source>Plugins</source>
-        <translation>插件</translation>
-    </message>
-    <message>
-        <source>Which plugin files are loaded, and why others are not</source>
-        <translation>哪些插件文件已加载,其余为何未加载</translation>
-    </message>
 </context>
 <context>
     <name>ZrShowcase</name>
@@ -1076,6 +1068,17 @@
     <message>
         <source>The choice cannot be kept: the configuration folder cannot be written.</source>
         <translation>选择无法保存:配置文件夹不可写。</translation>
+    </message>
+</context>
+<context>
+    <name>ZrPluginsDock</name>
+    <message>
+        <source>Plugins</source>
+        <translation>插件</translation>
+    </message>
+    <message>
+        <source>Which plugin files are loaded, and why others are not</source>
+        <translation>哪些插件文件已加载,其余为何未加载</translation>
     </message>
 </context>
 </TS>
