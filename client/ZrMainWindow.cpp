@@ -4,6 +4,7 @@
 #include "desk/ZrPluginDesk.h"
 #include "desk/ZrPluginDock.h"
 #include "showcase/ZrShowcaseDocks.h"
+#include "ZrPluginsDock.h"
 #include "ZrStatusLine.h"
 
 #include "zrcore/ZrCore.h"
@@ -36,6 +37,13 @@ void ZrMainWindow::connectParts()
     connect(m_toolBar, &ZrDeskToolBar::signalSkinChosen, this, &ZrMainWindow::signalSkinChosen);
     connect(m_desk, &ZrPluginDesk::signalOpened, this,
             [this] { m_showcase->setFront(m_desk->docks().value(0)); });
+}
+
+void ZrMainWindow::addPlugins(ZrPluginCatalogue *catalogue)
+{
+    m_plugins = new ZrPluginsDock(catalogue, this);
+    m_plugins->placeIn(this, m_desk->docks().value(0));
+    m_toolBar->addWidget(m_plugins->makeButton(m_toolBar));
 }
 
 void ZrMainWindow::loadSkin(const QVariant &css)

@@ -5,7 +5,9 @@
 #include <QtWidgets/QMainWindow>
 
 class ZrDeskToolBar;
+class ZrPluginCatalogue;
 class ZrPluginDesk;
+class ZrPluginsDock;
 class ZrShowcaseDocks;
 class ZrStatusLine;
 
@@ -26,6 +28,11 @@ public:
     ZrDeskToolBar *toolBar() const { return m_toolBar; }
     ZrStatusLine *statusLine() const { return m_status; }
     ZrShowcaseDocks *showcase() const { return m_showcase; }
+    ZrPluginsDock *plugins() const { return m_plugins; }
+
+    /// Adds the dock of the plugin files with its button, behind the first plugin. It comes to the front when
+    /// a plugin ended the last start and stays closed otherwise. The catalogue is borrowed.
+    void addPlugins(ZrPluginCatalogue *catalogue);
 
 signals:
     void signalSkinChosen(const QString &skin);
@@ -41,4 +48,5 @@ private:
     ZrPluginDesk *m_desk;
     ZrStatusLine *m_status;
     ZrShowcaseDocks *m_showcase;
+    ZrPluginsDock *m_plugins = nullptr;
 };

@@ -52,7 +52,7 @@ QString ZrPluginCatalogue::scan(const Options &options)
     d->manifest = ZrPluginManifest();
     d->marks = std::make_shared<ZrPluginMarks>(options.stateFolder);
     d->switches.open(options.stateFolder);
-    d->endedLastStart = d->marks->takeLeft();
+    d->endedLastStart = options.takeMarks ? d->marks->takeLeft() : QStringList();
     for (const QString &id : qAsConst(d->endedLastStart))
         d->switches.set(id, ZrPluginReason::EndedLastStart);
     if (!options.manifest.isEmpty()) {

@@ -47,9 +47,10 @@ public:
 
     struct Options
     {
-        QString folder;      // plugin files; empty for none
-        QString manifest;    // file of SHA-256 hashes as sha256sum writes it; empty: switched off
-        QString stateFolder; // where marks and switches lie; made when missing
+        QString folder;        // plugin files; empty for none
+        QString manifest;      // file of SHA-256 hashes as sha256sum writes it; empty: switched off
+        QString stateFolder;   // where marks and switches lie; made when missing; empty: nothing is kept
+        bool takeMarks = true; // false only looks: who ended the last start is left for the next one to find
     };
 
     explicit ZrPluginCatalogue(Register registerMaker);

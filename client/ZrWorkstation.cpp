@@ -19,6 +19,7 @@
 #include "ZrStatusLine.h"
 
 #include "zrcore/ZrCore.h"
+#include "zrcore/ZrCoreHost.h"
 #include "ZrReferenceHost.h"
 
 #include <QtCore/QDebug>
@@ -78,16 +79,17 @@ QString ZrWorkstation::start()
 {
     QString error = startHost();
     if (error.isEmpty())
+        error = loadPlugins();
+    if (error.isEmpty())
         error = makeFeed();
     if (!error.isEmpty())
         return error;
     makeWindow();
     connectBus();
-    error = loadPlugins();
-    if (error.isEmpty())
-        error = openPlugins();
+    error = openPlugins();
     if (!error.isEmpty())
         return error;
+    m_window->addPlugins(m_plugins.get());
     m_window->show();
     // The first picture costs more than any later one: a feed that had begun would wait for it.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
@@ -105,6 +107,27 @@ QString ZrWorkstation::startHost()
     host.faults = m_options.faults;
     host.database.language = languageOf(m_options);
     return m_host->start(host) ? QString() : m_host->errorText();
+}
+
+QString ZrWorkstation::loadPlugins()
+{
+    m_plugins =
+        std::make_unique<ZrPluginCatalogue>([this](const QString &id, const ZrPluginCatalogue::Maker &maker) {
+            m_host->registerPlugin(id, [this, id, maker] {
+                QObject *const object = maker();
+                m_window->desk()->prepare(id, object);
+                return object;
+            });
+        });
+    const QString folder = m_options.pluginFolder.isEmpty() ? m_paths.plugins : m_options.pluginFolder;
+    ZrPluginCatalogue::Options options;
+    options.folder = m_options.noPlugins ? QString() : folder;
+    options.manifest = m_options.pluginManifest;
+    options.stateFolder = ZrCoreHost::instance().configFolder();
+    const QString error = m_plugins->scan(options);
+    if (error.isEmpty())
+        m_plugins->loadAll();
+    return error;
 }
 
 QString ZrWorkstation::makeFeed()
@@ -144,37 +167,24 @@ void ZrWorkstation::makeWindow()
     connect(&m_end, &QTimer::timeout, this, &ZrWorkstation::signalDone);
 }
 
-QString ZrWorkstation::loadPlugins()
+void ZrWorkstation::offerPlugins()
 {
-    m_catalogue = std::make_unique<ZrPluginCatalogue>(
-        [this](const QString &pluginId, const ZrPluginCatalogue::Maker &maker) {
-            m_host->registerPlugin(pluginId, [this, pluginId, maker] {
-                QObject *const object = maker();
-                m_window->desk()->prepare(pluginId, object);
-                return object;
-            });
-        });
-    ZrPluginCatalogue::Options options;
-    options.folder = m_paths.plugins;
-    options.stateFolder = m_paths.config;
-    const QString error = m_catalogue->scan(options);
-    if (!error.isEmpty())
-        return error;
-    m_catalogue->loadAll();
     m_window->desk()->setGuard([this](const QString &pluginId, const std::function<void()> &work) {
-        m_catalogue->guarded(pluginId, work);
+        m_plugins->guarded(pluginId, work);
     });
     QList<QPair<QString, QString>> plugins;
-    for (const ZrPluginEntry &entry : m_catalogue->entries()) {
+    for (const ZrPluginEntry &entry : m_plugins->entries()) {
         if (entry.state == ZrPluginEntry::Loaded)
             plugins.append({entry.file.id, entry.file.title});
     }
     m_window->toolBar()->setPlugins(plugins);
-    return QString();
 }
 
 QString ZrWorkstation::openPlugins()
 {
+    offerPlugins();
+    if (m_options.noPlugins && m_options.open.isEmpty())
+        return QString();
     const QString blotter = QStringLiteral("blotter");
     const QStringList wanted = m_options.open.isEmpty() ? QStringList{blotter, blotter} : m_options.open;
     for (const QString &pluginId : wanted) {

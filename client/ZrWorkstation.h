@@ -29,7 +29,7 @@ struct ZrWorkstationPaths
     QString data; // pictures outside of any skin
     QStringList recordings;
     QString config;  // empty: the user's own folder
-    QString plugins; // empty: none
+    QString plugins; // empty for none
 };
 
 /// One run of the workstation: host, feed, bus, window with plugins, and what it came to.
@@ -52,6 +52,8 @@ public:
     QString finish();
 
     ZrMainWindow *window() const { return m_window.get(); }
+    /// The plugin files, once start() has gone well; lives longer than the window.
+    ZrPluginCatalogue *plugins() const { return m_plugins.get(); }
     const ZrRunReport &report() const { return m_report; }
     /// Lines of the recording that were left out, for people; empty when there were none.
     QString problems() const { return m_problems; }
@@ -61,9 +63,10 @@ signals:
 
 private:
     QString startHost();
+    QString loadPlugins();
     QString makeFeed();
     void makeWindow();
-    QString loadPlugins();
+    void offerPlugins();
     QString openPlugins();
     void openPlugin(const QString &pluginId);
     void watch(ZrPluginDock *dock);
@@ -80,7 +83,7 @@ private:
     const ZrWorkstationPaths m_paths;
     ZrClientApplication *const m_app; // not owned
     std::unique_ptr<ZrReferenceHost> m_host;
-    std::unique_ptr<ZrPluginCatalogue> m_catalogue;
+    std::unique_ptr<ZrPluginCatalogue> m_plugins;
     std::unique_ptr<ZrMainWindow> m_window;
     std::unique_ptr<ZrSteadyClock> m_clock;
     std::unique_ptr<ZrFeedPlayer> m_player; // after what its thread uses: it goes first

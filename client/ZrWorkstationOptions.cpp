@@ -38,6 +38,14 @@ void addFlags(QCommandLineParser *parser)
     parser->addOption({text("open"),
                        text("Plugins to open, one below the other; \"blotter,blotter\" otherwise."),
                        text("ID,ID...")});
+    parser->addOption(
+        {text("plugins"), text("Folder of plugin files; that of the program otherwise."), text("DIR")});
+    parser->addOption({text("plugin-manifest"),
+                       text("Loads only plugin files that this list of SHA-256 hashes names."),
+                       text("FILE")});
+    parser->addOption({text("no-plugins"), text("Starts without plugins.")});
+    parser->addOption(
+        {text("list-plugins"), text("Tells which plugin files there are, without running them.")});
     parser->addOption({text("lang"), text("zh_CN or en; that of the locale otherwise."), text("zh_CN|en")});
 }
 
@@ -130,6 +138,10 @@ bool ZrWorkstationOptions::parse(const QStringList &arguments, ZrWorkstationOpti
     options->skin = values.notEmpty("skin");
     options->faults = values.notEmpty("faults");
     options->open = values.ids("open");
+    options->pluginFolder = values.notEmpty("plugins");
+    options->pluginManifest = values.notEmpty("plugin-manifest");
+    options->noPlugins = parser.isSet(text("no-plugins"));
+    options->listPlugins = parser.isSet(text("list-plugins"));
     options->language = values.notEmpty("lang");
     if (!options->language.isEmpty() && options->language != text("zh_CN") && options->language != text("en"))
         values.complain("lang", text("zh_CN or en"), options->language);

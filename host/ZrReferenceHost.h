@@ -55,7 +55,7 @@ public:
         QString dataFolder;            // "ZRData:"; empty for none
         QString skinRoot;              // "ZRSkin:", the folder of the skins' folders; empty for none
         QString skinId;                // empty for the first one found
-        QString pluginFolder;          // plugin files, see zrcore/ZrCorePlugin.h; empty for none
+        QString pluginFolder;          // sealed plugin files, see zrcore/ZrCorePlugin.h; empty for none
         QString faults;                // as setFaults() reads it
         QString loginType;             // empty for that of the reference data
         QWidget *mainWindow = nullptr; // not owned

@@ -743,4 +743,157 @@
         <translation type="unfinished"></translation>
     </message>
 </context>
+<context>
+    <name>ZrPluginTexts</name>
+    <message>
+        <source>found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>loaded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot be read: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No plugin: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Damaged: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Neither a seal nor a manifest vouches for its content</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Made for another machine or toolkit: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wrong interface: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No usable ID: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Has the ID of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not in the manifest, or with another hash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missing symbol: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missing library: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot be loaded: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A start ended while it was loaded or made</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By the user</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The last start ended while the plugin %1 was loaded or made; it is switched off.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refused plugin files: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrPluginsPanel</name>
+    <message>
+        <source>Load at start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notice about plugins</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plugin files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether the next start loads this plugin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loads the plugin in spite of what the start left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read (ms)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load (ms)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The choice cannot be kept: the configuration folder cannot be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrPluginsDock</name>
+    <message>
+        <source>Plugins</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which plugin files are loaded, and why others are not</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
 </TS>

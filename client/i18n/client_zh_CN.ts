@@ -743,4 +743,157 @@
         <translation>行情到显示:中位 %1 毫秒,99% 分位 %2 毫秒</translation>
     </message>
 </context>
+<context>
+    <name>ZrPluginTexts</name>
+    <message>
+        <source>found</source>
+        <translation>已找到</translation>
+    </message>
+    <message>
+        <source>loaded</source>
+        <translation>已加载</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>已拒绝</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>已停用</translation>
+    </message>
+    <message>
+        <source>Cannot be read: %1</source>
+        <translation>无法读取:%1</translation>
+    </message>
+    <message>
+        <source>No plugin: %1</source>
+        <translation>不是插件:%1</translation>
+    </message>
+    <message>
+        <source>Damaged: %1</source>
+        <translation>已损坏:%1</translation>
+    </message>
+    <message>
+        <source>Neither a seal nor a manifest vouches for its content</source>
+        <translation>内容既无封印也无清单担保</translation>
+    </message>
+    <message>
+        <source>Made for another machine or toolkit: %1</source>
+        <translation>为其他机器或工具包构建:%1</translation>
+    </message>
+    <message>
+        <source>Wrong interface: %1</source>
+        <translation>接口不符:%1</translation>
+    </message>
+    <message>
+        <source>No usable ID: %1</source>
+        <translation>没有可用的标识:%1</translation>
+    </message>
+    <message>
+        <source>Has the ID of %1</source>
+        <translation>标识与 %1 重复</translation>
+    </message>
+    <message>
+        <source>Not in the manifest, or with another hash</source>
+        <translation>不在清单中,或哈希不符</translation>
+    </message>
+    <message>
+        <source>Missing symbol: %1</source>
+        <translation>缺少符号:%1</translation>
+    </message>
+    <message>
+        <source>Missing library: %1</source>
+        <translation>缺少库:%1</translation>
+    </message>
+    <message>
+        <source>Cannot be loaded: %1</source>
+        <translation>无法加载:%1</translation>
+    </message>
+    <message>
+        <source>A start ended while it was loaded or made</source>
+        <translation>加载或创建它时启动中断</translation>
+    </message>
+    <message>
+        <source>By the user</source>
+        <translation>由用户停用</translation>
+    </message>
+    <message>
+        <source>The last start ended while the plugin %1 was loaded or made; it is switched off.</source>
+        <translation>上次启动在加载或创建插件 %1 时中断,该插件已停用。</translation>
+    </message>
+    <message>
+        <source>Refused plugin files: %1.</source>
+        <translation>已拒绝的插件文件:%1。</translation>
+    </message>
+</context>
+<context>
+    <name>ZrPluginsPanel</name>
+    <message>
+        <source>Load at start</source>
+        <translation>启动时加载</translation>
+    </message>
+    <message>
+        <source>Load now</source>
+        <translation>立即加载</translation>
+    </message>
+    <message>
+        <source>Notice about plugins</source>
+        <translation>插件通知</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>Plugin files</source>
+        <translation>插件文件</translation>
+    </message>
+    <message>
+        <source>Whether the next start loads this plugin</source>
+        <translation>下次启动时是否加载此插件</translation>
+    </message>
+    <message>
+        <source>Loads the plugin in spite of what the start left out</source>
+        <translation>加载启动时未加载的插件</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>标识</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Read (ms)</source>
+        <translation>读取(毫秒)</translation>
+    </message>
+    <message>
+        <source>Load (ms)</source>
+        <translation>加载(毫秒)</translation>
+    </message>
+    <message>
+        <source>The choice cannot be kept: the configuration folder cannot be written.</source>
+        <translation>选择无法保存:配置文件夹不可写。</translation>
+    </message>
+</context>
+<context>
+    <name>ZrPluginsDock</name>
+    <message>
+        <source>Plugins</source>
+        <translation>插件</translation>
+    </message>
+    <message>
+        <source>Which plugin files are loaded, and why others are not</source>
+        <translation>哪些插件文件已加载,其余为何未加载</translation>
+    </message>
+</context>
 </TS>
