@@ -15,6 +15,8 @@
 #include "ZrFeedFactory.h"
 #include "ZrMainWindow.h"
 #include "ZrPluginCatalogue.h"
+#include "ZrPluginsDock.h"
+#include "ZrPluginsPanel.h"
 #include "ZrShots.h"
 #include "ZrStatusLine.h"
 
@@ -90,6 +92,7 @@ QString ZrWorkstation::start()
     if (!error.isEmpty())
         return error;
     m_window->addPlugins(m_plugins.get());
+    connect(m_window->plugins()->panel(), &ZrPluginsPanel::signalLoaded, this, &ZrWorkstation::offerPlugins);
     m_window->show();
     // The first picture costs more than any later one: a feed that had begun would wait for it.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
