@@ -60,7 +60,7 @@ ZrWorkstationPaths findPaths()
         {shared + QStringLiteral("/recordings"), QStringLiteral(ZR_SOURCE_DIR "/client/recordings")})};
     const QString program = QCoreApplication::applicationDirPath();
     paths.plugins = firstFolder(
-        {program + QStringLiteral("/../" ZR_PLUGIN_FOLDER), program + QStringLiteral("/../lib/plugins")});
+        {program + QStringLiteral("/../" ZR_PLUGIN_FOLDER), program + QStringLiteral("/../lib/zrwidget/plugins")});
     return paths;
 }
 
