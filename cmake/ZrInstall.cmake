@@ -12,6 +12,8 @@ target_include_directories(zrwidget INTERFACE $<INSTALL_INTERFACE:${zr_header_di
 # The public headers of the flat folder: no private ones, and none that only another layer of ours includes.
 file(GLOB zr_public_headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/shell/zrwidget/*.h)
 list(FILTER zr_public_headers EXCLUDE REGEX "_p\\.h$")
+# A host connects to the signals of a plugin's private object.
+list(APPEND zr_public_headers ${PROJECT_SOURCE_DIR}/shell/zrwidget/ZrPluginBaseWidget_p.h)
 install(FILES ${zr_public_headers} DESTINATION ${zr_header_dir})
 
 set_target_properties(zrwidget PROPERTIES INSTALL_RPATH "$ORIGIN")

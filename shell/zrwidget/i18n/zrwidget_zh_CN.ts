@@ -52,6 +52,29 @@
     </message>
 </context>
 <context>
+    <name>ZrDialog</name>
+    <message>
+        <source>是否关闭</source>
+        <translation>是否关闭</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>刷新</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>确认</source>
+        <translation>确认</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
     <name>ZrHelpMark</name>
     <message>
         <source>Help</source>
