@@ -64,8 +64,9 @@ void ZrHeaderFilter::makePopup(ZrHeaderView *head)
     constexpr bool hasShadow = false; // the dialog is as large as the panel
     constexpr int leaveWhereItIs = 0;
     ZrHeaderViewPrivate *const shared = head->getPrivate();
-    auto *const dialog =
-        new ZrDialog(QString(), closesOnButton, head, noButtons, showsTitle, hasShadow, leaveWhereItIs);
+    // The title isn't shown; it is the dialog's name for a screen reader.
+    auto *const dialog = new ZrDialog(ZrViewFilterWidget::tr("Filter"), closesOnButton, head, noButtons,
+                                      showsTitle, hasShadow, leaveWhereItIs);
     auto *const panel = new ZrViewFilterWidget(dialog);
     dialog->addWidget(panel);
     shared->filterDialog = dialog;

@@ -186,4 +186,23 @@
         <translation type="unfinished"></translation>
     </message>
 </context>
+<context>
+    <name>ZrViewFilterWidget</name>
+    <message>
+        <source>Search box</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
 </TS>

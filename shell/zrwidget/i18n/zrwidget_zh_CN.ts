@@ -186,4 +186,23 @@
         <translation>错误</translation>
     </message>
 </context>
+<context>
+    <name>ZrViewFilterWidget</name>
+    <message>
+        <source>Search box</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+</context>
 </TS>
