@@ -78,3 +78,4 @@ ZrBenchCases mapBenches();
 ZrBenchCases busBenches();
 ZrBenchCases editorBenches();
 ZrBenchCases comboBenches();
+ZrBenchCases filterBenches();

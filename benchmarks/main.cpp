@@ -15,7 +15,8 @@ constexpr int LeastRepetitions = 5;
 ZrBenchCases allBenches()
 {
     return gridUpdateBenches() + gridAppendBenches() + gridSortFilterBenches() + gridPaintBenches() +
-           gridMemoryBenches() + mapBenches() + busBenches() + editorBenches() + comboBenches();
+           gridMemoryBenches() + mapBenches() + busBenches() + editorBenches() + comboBenches() +
+           filterBenches();
 }
 
 // A name that is asked for whole means that row only, anything else what holds it.

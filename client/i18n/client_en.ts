@@ -723,6 +723,30 @@
         <source>Tip</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Choices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ranges of numbers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filtered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Searched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens at a filter button</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list below a filter button: what the column holds, to be searched and ticked.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ZrStatusLine</name>

@@ -723,6 +723,30 @@
         <source>Tip</source>
         <translation>提示</translation>
     </message>
+    <message>
+        <source>Choices</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>Ranges of numbers</source>
+        <translation>数值区间</translation>
+    </message>
+    <message>
+        <source>Filtered</source>
+        <translation>已筛选</translation>
+    </message>
+    <message>
+        <source>Searched</source>
+        <translation>搜索后</translation>
+    </message>
+    <message>
+        <source>Opens at a filter button</source>
+        <translation>在筛选按钮处打开</translation>
+    </message>
+    <message>
+        <source>The list below a filter button: what the column holds, to be searched and ticked.</source>
+        <translation>筛选按钮下的列表：列中的取值，可搜索、可勾选。</translation>
+    </message>
 </context>
 <context>
     <name>ZrStatusLine</name>

@@ -10,6 +10,7 @@ QList<ZrShowcaseEntry> ZrShowcasePages::all()
         // --- grid ---
         entry("table-view", "ZrTableView", "grid", zrMakeTableViewPage),
         entry("header-view", "ZrHeaderView", "grid", zrMakeHeaderViewPage),
+        entry("filter-popup", "ZrViewFilterWidget", "grid", zrMakeFilterPopupPage),
 
         // --- dialogs ---
         entry("message-box", "ZrMessageBox", "dialogs", zrMakeMessageBoxPage),

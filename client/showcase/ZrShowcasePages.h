@@ -25,6 +25,7 @@ public:
 // --- grid ---
 ZrShowcasePage *zrMakeTableViewPage(QWidget *parent);
 ZrShowcasePage *zrMakeHeaderViewPage(QWidget *parent);
+ZrShowcasePage *zrMakeFilterPopupPage(QWidget *parent);
 
 // --- dialogs ---
 ZrShowcasePage *zrMakeMessageBoxPage(QWidget *parent);
