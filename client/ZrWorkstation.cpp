@@ -6,6 +6,7 @@
 #include "desk/ZrDeskToolBar.h"
 #include "desk/ZrFeedMonitor.h"
 #include "desk/ZrFeedProgress.h"
+#include "desk/ZrLinkedShot.h"
 #include "desk/ZrPluginDesk.h"
 #include "desk/ZrPluginDock.h"
 #include "feed/ZrFeedPlayer.h"
@@ -302,6 +303,8 @@ QString ZrWorkstation::writeFiles()
         error = m_tee->finish();
     if (error.isEmpty() && !m_options.shotsFolder.isEmpty())
         error = ZrShots::write(m_window.get(), m_options.shotsFolder);
+    if (error.isEmpty() && !m_options.shotsFolder.isEmpty())
+        error = ZrLinkedShot::write(m_window.get(), m_window->desk()->docks(), m_options.shotsFolder);
     if (error.isEmpty() && !m_options.shotsFolder.isEmpty())
         error = ZrShots::writePages(m_window->showcase(), m_options.shotsFolder);
     if (error.isEmpty() && !m_options.reportFile.isEmpty())

@@ -171,6 +171,10 @@ void tst_ZrWorkstation::picturesAndReportAreWritten()
     QVERIFY(!QImage(options.shotsFolder + QStringLiteral("/dock-blotter.png")).isNull());
     QVERIFY(!QImage(options.shotsFolder + QStringLiteral("/dock-blotter-2.png")).isNull());
     QVERIFY(!QImage(options.shotsFolder + QStringLiteral("/showcase-table-view.png")).isNull());
+    // The linked pair with its popup is another picture than the window alone.
+    const QImage linked(options.shotsFolder + QStringLiteral("/linked.png"));
+    QVERIFY(!linked.isNull());
+    QVERIFY(linked != QImage(options.shotsFolder + QStringLiteral("/window.png")));
     QVERIFY(QFile::exists(options.reportFile));
     QVERIFY(QFile::exists(options.recordFile));
 }
