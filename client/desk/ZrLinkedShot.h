@@ -13,7 +13,7 @@ class ZrPluginDock;
 class ZrLinkedShot
 {
 public:
-    /// "linked.png" in the folder, which must be there. Puts the window back as it was, but for the rows that
-    /// are chosen then.
+    /// "linked.png" in the folder, which must be there. Rows are chosen then; a head whose first columns have
+    /// no filter may be sorted too, as a press beside the button does.
     static QString write(QMainWindow *window, const QList<ZrPluginDock *> &docks, const QString &folder);
 };
