@@ -25,7 +25,8 @@ ZrDeskToolBar::ZrDeskToolBar(const QStringList &skins, const QString &skin, QWid
     setMovable(false);
     addSkins(skins, skin);
     addSeparator();
-    addMenu(QStringLiteral("openPluginButton"), tr("Open plugin"), tr("Another plugin on the desk"), m_plugins);
+    addMenu(QStringLiteral("openPluginButton"), tr("Open plugin"), tr("Another plugin on the desk"),
+            m_plugins);
     setPlugins({});
 }
 

@@ -6,8 +6,8 @@
 class QMainWindow;
 class ZrPluginDock;
 
-/// A picture of two linked plugins at work: a row of the first one's grid is clicked, the second one follows, and
-/// a filter popup stands open.
+/// A picture of two linked plugins at work: a row of the first one's grid is clicked, the second one follows,
+/// and a filter popup stands open.
 ///
 /// Errors: one sentence or nothing. Fewer than two plugins with grids that hold rows give no picture.
 class ZrLinkedShot
