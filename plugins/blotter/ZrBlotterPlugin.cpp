@@ -60,9 +60,10 @@ void ZrBlotterPlugin::connectParts()
 {
     connect(m_inbox, &ZrMessageInbox::signalBatch, this, &ZrBlotterPlugin::takeBatch);
     connect(m_panel, &ZrBlotterPanel::signalApplied, this, &ZrBlotterPlugin::report);
-    connect(
-        m_panel, &ZrBlotterPanel::signalSecurityChosen, m_presenter.data(),
-        [this](const QString &symbol) { m_presenter->tellSecurity(symbol); }, Qt::DirectConnection);
+    connect(m_panel, &ZrBlotterPanel::signalSecurityChosen, this, [this](const QString &symbol) {
+        if (m_presenter)
+            m_presenter->tellSecurity(symbol);
+    });
     connect(m_presenter.data(), &ZrBlotterPresenter::signalSecurityChosen, m_panel,
             &ZrBlotterPanel::selectSecurity, Qt::QueuedConnection);
 }
