@@ -12,6 +12,7 @@ QList<ZrShowcaseEntry> ZrShowcasePages::all()
         entry("header-view", "ZrHeaderView", "grid", zrMakeHeaderViewPage),
 
         // --- dialogs ---
+        entry("dialog", "ZrDialog", "dialogs", zrMakeDialogPage),
         entry("message-box", "ZrMessageBox", "dialogs", zrMakeMessageBoxPage),
         entry("comfirm-dialog", "ZrComfirmDialog", "dialogs", zrMakeComfirmDialogPage),
         entry("toast-dialog", "ZrToastDialog", "dialogs", zrMakeToastDialogPage),

@@ -27,6 +27,7 @@ ZrShowcasePage *zrMakeTableViewPage(QWidget *parent);
 ZrShowcasePage *zrMakeHeaderViewPage(QWidget *parent);
 
 // --- dialogs ---
+ZrShowcasePage *zrMakeDialogPage(QWidget *parent);
 ZrShowcasePage *zrMakeMessageBoxPage(QWidget *parent);
 ZrShowcasePage *zrMakeComfirmDialogPage(QWidget *parent);
 ZrShowcasePage *zrMakeToastDialogPage(QWidget *parent);
