@@ -36,7 +36,7 @@ void press(QWidget *widget, const QPoint &at)
 /// A letter, or the key that takes the last one away.
 void type(QLineEdit *line, QChar letter)
 {
-    const int key = letter.isNull() ? int(Qt::Key_Backspace) : int(Qt::Key_Any);
+    const int key = letter.isNull() ? int(Qt::Key_Backspace) : letter.unicode();
     QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, letter.isNull() ? QString() : QString(letter));
     QCoreApplication::sendEvent(line, &event);
 }
@@ -175,7 +175,7 @@ double slowestKeyMs(Popup &popup)
     popup.open();
     ZrBenchStopwatch::drain();
     double slowest = 0;
-    for (const char letter : {'K', '0', '0', '7', '\0', '\0', '\0', '\0'}) {
+    for (const char letter : {'0', '7', '7', '\0', '\0', '\0'}) {
         const double ms = 1000 * secondsOf([&popup, letter] {
                               type(popup.search(), QLatin1Char(letter));
                               ZrBenchStopwatch::drain();

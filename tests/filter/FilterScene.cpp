@@ -72,6 +72,12 @@ void FilterScene::pressIn(ZrHeaderView *head, int section)
     QTest::mouseRelease(head->viewport(), Qt::LeftButton, Qt::NoModifier, button);
 }
 
+QRect FilterScene::buttonOf(int column) const
+{
+    const QRect button = head()->getPrivate()->filterButtonRects.value(column);
+    return button.isNull() ? QRect() : QRect(head()->mapToGlobal(button.topLeft()), button.size());
+}
+
 ZrDialog *FilterScene::popup() const
 {
     return grid ? head()->getPrivate()->filterDialog.data() : nullptr;

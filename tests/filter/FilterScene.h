@@ -33,6 +33,8 @@ public:
     void press(int column, ZrHeaderView *head = nullptr);
     static void pressIn(ZrHeaderView *head, int section);
     ZrHeaderView *head() const { return grid->getZrTableHorizontalHeader(); }
+    /// Where the button of a column stands on the screen, once it was painted; null before.
+    QRect buttonOf(int column) const;
     /// The popup and its parts; null while there is none.
     ZrDialog *popup() const;
     ZrViewFilterWidget *panel() const;
