@@ -202,6 +202,9 @@
     </message>
     <message>
         <source>Filter</source>
+    <name>ZrPluginBaseWidget</name>
+    <message>
+        <source>Plugin hasn&apos;t been initialized. Please do not close!</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

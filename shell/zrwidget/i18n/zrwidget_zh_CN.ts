@@ -203,6 +203,10 @@
     <message>
         <source>Filter</source>
         <translation>筛选</translation>
+    <name>ZrPluginBaseWidget</name>
+    <message>
+        <source>Plugin hasn&apos;t been initialized. Please do not close!</source>
+        <translation>插件尚未初始化完成，请勿关闭！</translation>
     </message>
 </context>
 </TS>
