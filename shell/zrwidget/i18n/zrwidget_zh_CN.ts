@@ -186,4 +186,11 @@
         <translation>错误</translation>
     </message>
 </context>
+<context>
+    <name>ZrPluginBaseWidget</name>
+    <message>
+        <source>Plugin hasn&apos;t been initialized. Please do not close!</source>
+        <translation>插件尚未初始化完成，请勿关闭！</translation>
+    </message>
+</context>
 </TS>
