@@ -930,6 +930,47 @@
     </message>
     <message>
         <source>The list below a filter button: what the column holds, to be searched and ticked.</source>
+        <source>Order limits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without a shadow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without a title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without buttons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One button</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Own parts in the title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A frameless dialog that hosts a plugin or any other widget.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fixed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resizable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asks before it closes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The changes are lost.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -931,6 +931,48 @@
     <message>
         <source>The list below a filter button: what the column holds, to be searched and ticked.</source>
         <translation>筛选按钮下的列表：列中的取值，可搜索、可勾选。</translation>
+        <source>Order limits</source>
+        <translation>委托限制</translation>
+    </message>
+    <message>
+        <source>Without a shadow</source>
+        <translation>无阴影</translation>
+    </message>
+    <message>
+        <source>Without a title</source>
+        <translation>无标题</translation>
+    </message>
+    <message>
+        <source>Without buttons</source>
+        <translation>无按钮</translation>
+    </message>
+    <message>
+        <source>One button</source>
+        <translation>一个按钮</translation>
+    </message>
+    <message>
+        <source>Own parts in the title</source>
+        <translation>标题中的自有部件</translation>
+    </message>
+    <message>
+        <source>A frameless dialog that hosts a plugin or any other widget.</source>
+        <translation>承载插件或任意控件的无边框对话框。</translation>
+    </message>
+    <message>
+        <source>Fixed</source>
+        <translation>固定大小</translation>
+    </message>
+    <message>
+        <source>Resizable</source>
+        <translation>可调整大小</translation>
+    </message>
+    <message>
+        <source>Asks before it closes</source>
+        <translation>关闭前询问</translation>
+    </message>
+    <message>
+        <source>The changes are lost.</source>
+        <translation>更改将会丢失。</translation>
     </message>
 </context>
 <context>

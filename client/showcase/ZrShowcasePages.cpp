@@ -13,6 +13,7 @@ QList<ZrShowcaseEntry> ZrShowcasePages::all()
         entry("filter-popup", "ZrViewFilterWidget", "grid", zrMakeFilterPopupPage),
 
         // --- dialogs ---
+        entry("dialog", "ZrDialog", "dialogs", zrMakeDialogPage),
         entry("message-box", "ZrMessageBox", "dialogs", zrMakeMessageBoxPage),
         entry("comfirm-dialog", "ZrComfirmDialog", "dialogs", zrMakeComfirmDialogPage),
         entry("toast-dialog", "ZrToastDialog", "dialogs", zrMakeToastDialogPage),

@@ -28,6 +28,7 @@ ZrShowcasePage *zrMakeHeaderViewPage(QWidget *parent);
 ZrShowcasePage *zrMakeFilterPopupPage(QWidget *parent);
 
 // --- dialogs ---
+ZrShowcasePage *zrMakeDialogPage(QWidget *parent);
 ZrShowcasePage *zrMakeMessageBoxPage(QWidget *parent);
 ZrShowcasePage *zrMakeComfirmDialogPage(QWidget *parent);
 ZrShowcasePage *zrMakeToastDialogPage(QWidget *parent);

@@ -7,6 +7,7 @@
 #include <QtWidgets/QWidget>
 
 class ZrDialog;
+class ZrPluginBaseWidget;
 
 /// What a dialog hosts: a plugin or any other widget, and what the dialog asks of it.
 ///
@@ -32,6 +33,7 @@ public:
     void refresh() const;
 
 private:
+    ZrPluginBaseWidget *plugin() const;
     static void watch(QWidget *widget, QObject *filter, bool on);
 
     QPointer<QWidget> m_widget;

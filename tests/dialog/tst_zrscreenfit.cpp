@@ -2,8 +2,8 @@
 #include "ZrTestMain.h"
 
 namespace {
-// A desk: the first screen with a panel at its top, a smaller one to its right and lower, an upright one to its
-// left and higher, and one above.
+// A desk: the first screen with a panel at its top, a smaller one to its right and lower, an upright one to
+// its left and higher, and one above.
 constexpr QRect first(0, 30, 1920, 1050);
 constexpr QRect right(1920, 400, 1280, 720);
 constexpr QRect upright(-1080, -300, 1080, 1920);
