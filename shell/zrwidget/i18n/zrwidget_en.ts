@@ -202,6 +202,10 @@
     </message>
     <message>
         <source>Filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ZrPluginBaseWidget</name>
     <message>
         <source>Plugin hasn&apos;t been initialized. Please do not close!</source>

@@ -203,6 +203,9 @@
     <message>
         <source>Filter</source>
         <translation>筛选</translation>
+    </message>
+</context>
+<context>
     <name>ZrPluginBaseWidget</name>
     <message>
         <source>Plugin hasn&apos;t been initialized. Please do not close!</source>
