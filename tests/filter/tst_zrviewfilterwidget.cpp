@@ -8,6 +8,7 @@
 #include "ZrTestMain.h"
 
 #include <QtCore/QTranslator>
+#include <QtGui/QTextDocument>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>

@@ -7,6 +7,7 @@
 #include "ZrViewTestKit.h"
 
 #include <QtCore/QTemporaryDir>
+#include <QtWidgets/QDialog>
 #include <QtWidgets/QLabel>
 
 /// The members of the facade that hand on to a part, and the little that they add.

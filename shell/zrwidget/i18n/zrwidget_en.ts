@@ -205,4 +205,11 @@
         <translation type="unfinished"></translation>
     </message>
 </context>
+<context>
+    <name>ZrPluginBaseWidget</name>
+    <message>
+        <source>Plugin hasn&apos;t been initialized. Please do not close!</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
 </TS>

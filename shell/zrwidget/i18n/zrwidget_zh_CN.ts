@@ -205,4 +205,11 @@
         <translation>筛选</translation>
     </message>
 </context>
+<context>
+    <name>ZrPluginBaseWidget</name>
+    <message>
+        <source>Plugin hasn&apos;t been initialized. Please do not close!</source>
+        <translation>插件尚未初始化完成，请勿关闭！</translation>
+    </message>
+</context>
 </TS>
