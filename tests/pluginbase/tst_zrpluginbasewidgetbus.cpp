@@ -38,6 +38,7 @@ private:
     QVariantMap onlyEvent(int type);
 
     FrameScene scene;
+    QWidget window;
     std::unique_ptr<PluginProbe> plugin;
     PresenterProbe *presenter = nullptr;
     std::vector<std::unique_ptr<EventProbe>> listeners; // one for each type of event
@@ -103,8 +104,8 @@ void TestZrPluginBaseWidgetBus::anEventIsSentWhenItsBitIsSet()
     QFETCH(int, bit);
     QFETCH(QVariantMap, expected);
     expected.insert(Names::PLUGININSTANCE_ID, pid);
-    QWidget window;
     window.setGeometry(40, 40, 600, 500);
+    window.show();
     plugin->setParent(&window);
     plugin->move(10, 30);
     plugin->show();
@@ -122,7 +123,6 @@ void TestZrPluginBaseWidgetBus::anEventIsSentWhenItsBitIsSet()
     plugin->SetEventNotifyFlag(bit);
     doAll({321, 123});
     QCOMPARE(onlyEvent(type), expected);
-    plugin->setParent(nullptr);
 }
 
 void TestZrPluginBaseWidgetBus::selectionIsToldBeforeTheEvent()
