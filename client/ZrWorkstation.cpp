@@ -1,6 +1,5 @@
 #include "ZrWorkstation.h"
 
-#include "ZrPluginBaseWidget.h"
 #include "ZrViewBase.h"
 
 #include "desk/ZrDeskToolBar.h"

@@ -2,7 +2,6 @@
 
 #include "FreezeTableView.h"
 #include "ZrHeaderView.h"
-#include "ZrPluginBaseWidget.h"
 #include "ZrPluginDock.h"
 #include "ZrTableView.h"
 

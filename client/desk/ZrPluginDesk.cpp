@@ -1,6 +1,5 @@
 #include "ZrPluginDesk.h"
 
-#include "ZrPluginBaseWidget.h"
 #include "ZrPluginDock.h"
 
 #include "zrdefine/PluginPropety.h"

@@ -1,7 +1,6 @@
 #include "ZrPluginDock.h"
 
 #include "ZrMessageBox.h"
-#include "ZrPluginBaseWidget.h"
 #include "ZrPluginBaseWidget_p.h"
 
 #include "ZrPluginTitleBar.h"

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "ZrPluginBaseWidget.h"
+
 #include <QtCore/QPointer>
 #include <QtCore/QVariant>
 #include <QtWidgets/QDockWidget>
 
-class ZrPluginBaseWidget;
 class ZrPluginTitleBar;
 
 /// The frame that the workstation puts around a plugin: a dock under the plugin's own title.

@@ -8,6 +8,7 @@
 #include "zrdefine/PluginPropety.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QEvent>
 #include <QtGui/QIcon>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>

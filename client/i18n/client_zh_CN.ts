@@ -791,6 +791,10 @@
         <source>The changes are lost.</source>
         <translation>更改将会丢失。</translation>
     </message>
+    <message>
+        <source>Order</source>
+        <translation>委托</translation>
+    </message>
 </context>
 <context>
     <name>ZrStatusLine</name>
