@@ -9,6 +9,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QEvent>
+#include <QtCore/QFileInfo>
 #include <QtGui/QIcon>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -27,7 +28,8 @@ QString skinPicture(const QString &path)
     if (path.isEmpty() || QDir::isAbsolutePath(clean) || clean.startsWith(QLatin1String("..")) ||
         clean.contains(QLatin1Char(':')))
         return QString();
-    return QStringLiteral("ZRSkin:%1/%2").arg(ZrCore::instance()->getCurrentSkinId(), clean);
+    const QString picture = QStringLiteral("ZRSkin:%1/%2").arg(ZrCore::instance()->getCurrentSkinId(), clean);
+    return QFileInfo(picture).isFile() ? picture : QString(); // the toolkit would warn of each time it looks
 }
 } // namespace
 

@@ -63,6 +63,7 @@ ZrBlotterPanel::ZrBlotterPanel(const QString &columnFile, QWidget *parent)
     m_view->SetAlternatingRowColors(true);
     m_view->setItemGridShow(true);
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_view->setItemSelectable(true); // the row that a neighbour chose has to be seen
     m_view->setHeadSectionMovable(true);
     setFollowing(true);
     connect(m_view, &ZrTableView::clicked, this, &ZrBlotterPanel::tellSecurity);

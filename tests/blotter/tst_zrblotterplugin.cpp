@@ -1,3 +1,4 @@
+#include "FreezeTableView.h"
 #include "ZrBlotterFields.h"
 #include "ZrBlotterPanel.h"
 #include "ZrBlotterPlugin.h"

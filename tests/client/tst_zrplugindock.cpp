@@ -55,6 +55,7 @@ private:
 void tst_ZrPluginDock::initTestCase()
 {
     ZrQuietPlatform::install();
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false")); // one line for each plugin's end
     ZrReferenceHost::Options options;
     options.configFolder = m_folder.path();
     QVERIFY2(m_host.start(options), qPrintable(m_host.errorText()));
@@ -243,7 +244,9 @@ void tst_ZrPluginDock::theFocusSelects()
     m_window->setCentralWidget(elsewhere);
     m_window->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QTRY_VERIFY(elsewhere->isVisible());
     elsewhere->setFocus();
+    QTRY_VERIFY(elsewhere->hasFocus());
     m_plugin->calls.clear();
     m_plugin->findChild<QLineEdit *>()->setFocus();
     QCOMPARE(m_plugin->calls, QStringList{QStringLiteral("selected")});

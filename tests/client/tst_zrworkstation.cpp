@@ -41,12 +41,12 @@ private:
 };
 
 namespace {
-const ZrTableView *gridOf(const ZrPluginDock *dock)
+ZrTableView *gridOf(const ZrPluginDock *dock)
 {
     return dock->plugin()->findChild<ZrTableView *>();
 }
 
-const ZrTableView *firstGrid(const ZrWorkstation &workstation)
+ZrTableView *firstGrid(const ZrWorkstation &workstation)
 {
     return gridOf(workstation.window()->desk()->docks().value(0));
 }
