@@ -7,7 +7,7 @@ QtMessageHandler previous = nullptr;
 
 void filter(QtMsgType type, const QMessageLogContext &context, const QString &line)
 {
-    for (const char *const helpless : {"propagateSizeHints", "raise"}) {
+    for (const char *const helpless : {"propagateSizeHints", "raise", "setParent"}) {
         if (line == QStringLiteral("This plugin does not support %1()").arg(QLatin1String(helpless)))
             return;
     }

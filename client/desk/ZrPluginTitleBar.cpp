@@ -192,6 +192,8 @@ void ZrPluginTitleBar::removeCustomWidget(QWidget *widget)
 
 void ZrPluginTitleBar::giveBack()
 {
+    if (!m_plugin)
+        return; // nobody is left to take them: they go with the title
     const QList<QPointer<QWidget>> widgets = m_customWidgets;
     for (const QPointer<QWidget> &widget : widgets)
         removeCustomWidget(widget);
