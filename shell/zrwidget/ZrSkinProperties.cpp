@@ -26,7 +26,8 @@ ZrSkinProperties::List ZrSkinProperties::read(const QString &fileName)
     const QStringList keys = file.allKeys();
     if (keys.size() > maxKeys)
         qWarning() << "ZrSkinProperties::read" << fileName << "has too many keys:" << keys.size();
-    for (const QString &key : keys.mid(0, maxKeys)) {
+    const QStringList taken = keys.mid(0, maxKeys);
+    for (const QString &key : taken) {
         QString name = key;
         name.remove(QLatin1Char('/'));
         properties.append({name.toLatin1(), file.value(key).toString()});
