@@ -27,7 +27,7 @@ struct ZrWorkstationPaths
     QString data; // pictures outside of any skin
     QStringList recordings;
     QString config;  // empty: the user's own folder
-    QString plugins; // empty for none
+    QString plugins = QString(); // empty for none
 };
 
 /// One run of the workstation: host, feed, bus, window, and what it came to.
