@@ -116,7 +116,10 @@ void ZrPluginsPanel::showEntries()
     RecordDataList rows;
     for (const ZrPluginEntry &entry : m_catalogue->entries())
         rows.append(record(entry));
-    m_view->updataRecordDatas(rows);
+    if (m_view->getRowCount() == 0)
+        m_view->addRecordDataList(rows);
+    else
+        m_view->updataRecordDatas(rows); // keeps the current row
 }
 
 void ZrPluginsPanel::showNotice(const QString &text)

@@ -29,7 +29,7 @@ struct ZrWorkstationPaths
     QString data; // pictures outside of any skin
     QStringList recordings;
     QString config;  // empty: the user's own folder
-    QString plugins; // empty for none
+    QString plugins = QString(); // empty for none
 };
 
 /// One run of the workstation: host, feed, bus, window with plugins, and what it came to.

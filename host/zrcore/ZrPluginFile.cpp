@@ -54,9 +54,10 @@ bool Reader::readBytes()
     QFile file(m_file->path);
     if (!file.open(QIODevice::ReadOnly))
         return refuse(ZrPluginReason::Unreadable, file.errorString());
-    m_bytes = file.read(ZrPluginFile::maxBytes + 1);
-    if (m_bytes.size() > ZrPluginFile::maxBytes || file.error() != QFileDevice::NoError)
-        return refuse(ZrPluginReason::Unreadable, file.errorString());
+    // The toolkit makes room for as much as is asked for before it reads: not for the most that is allowed.
+    m_bytes = file.read(info.size() + 1);
+    if (m_bytes.size() != info.size() || file.error() != QFileDevice::NoError)
+        return refuse(ZrPluginReason::Unreadable, QStringLiteral("it changes while it is read"));
     m_file->sha256 = ZrPluginSeal::hashOf(m_bytes);
     return true;
 }

@@ -18,6 +18,7 @@ struct WorkstationRun
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
             environment.insert(QLatin1String(name), home);
+        environment.remove(QStringLiteral("QT_LOGGING_RULES")); // it chooses its own when nobody asks
         QProcess process;
         process.setProcessEnvironment(environment);
         process.start(QStringLiteral(ZR_WORKSTATION),

@@ -7,6 +7,7 @@
 #include "ZrTableView.h"
 #include "ZrTestMain.h"
 
+#include <QtWidgets/QAction>
 #include <QtWidgets/QMainWindow>
 #include <QtWidgets/QToolButton>
 

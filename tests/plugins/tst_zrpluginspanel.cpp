@@ -138,8 +138,6 @@ void tst_ZrPluginsPanel::theCurrentRowTellsItsReason()
 void tst_ZrPluginsPanel::aRefusedPluginHasNoChoices()
 {
     open();
-    QVERIFY(!part<QPushButton>("pluginLoad")->isEnabled()); // nothing is current
-    QVERIFY(!part<QCheckBox>("pluginAtStart")->isEnabled());
     m_panel->view()->setCurrentIndex(m_panel->view()->index(1, 0), true);
     QVERIFY(!part<QPushButton>("pluginLoad")->isEnabled());
     QVERIFY(!part<QCheckBox>("pluginAtStart")->isEnabled());
