@@ -930,6 +930,9 @@
     </message>
     <message>
         <source>The list below a filter button: what the column holds, to be searched and ticked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Order limits</source>
         <translation type="unfinished"></translation>
     </message>

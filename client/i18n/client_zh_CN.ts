@@ -931,6 +931,8 @@
     <message>
         <source>The list below a filter button: what the column holds, to be searched and ticked.</source>
         <translation>筛选按钮下的列表：列中的取值，可搜索、可勾选。</translation>
+    </message>
+    <message>
         <source>Order limits</source>
         <translation>委托限制</translation>
     </message>
