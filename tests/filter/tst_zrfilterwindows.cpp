@@ -5,6 +5,7 @@
 
 #include <QtCore/QLoggingCategory>
 #include <QtGui/QScreen>
+#include <QtGui/QStyleHints>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 
@@ -36,7 +37,6 @@ private:
 void tst_ZrFilterWindows::init()
 {
     m_scene = std::make_unique<FilterScene>();
-    m_scene->desk.mainWindow.setGeometry(200, 200, 800, 600);
     m_scene->desk.mainWindow.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&m_scene->desk.mainWindow));
 }
@@ -158,6 +158,8 @@ int main(int argc, char *argv[])
     // The toolkit asks for windows that are gone already, and tells the server's answer.
     QLoggingCategory::setFilterRules("qt.qpa.xcb.warning=false");
     QApplication app(argc, argv);
+    // Each click is one of its own, however fast they follow each other.
+    QGuiApplication::styleHints()->setMouseDoubleClickInterval(0);
     tst_ZrFilterWindows test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -58,6 +58,9 @@ public:
     void open()
     {
         desk.mainWindow.show();
+        // As a window manager does when a window goes; the platform without windows doesn't.
+        desk.mainWindow.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&desk.mainWindow));
         dialog->show();
         QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
         dialog->activateWindow();
