@@ -104,8 +104,7 @@ void tst_ZrDialog::itTellsThatItWasMade()
 {
     QTest::ignoreMessage(QtDebugMsg, "ZrDialog::ZrDialog \"Title\"  dialog inited");
     QTest::ignoreMessage(QtDebugMsg, QRegularExpression("^ZrDialog::addWidget QWidget\\(0x0\\) QWidget"));
-    QWidget content;
-    make()->addWidget(&content);
+    make()->addWidget(new QWidget);
 }
 
 void tst_ZrDialog::theTitleIsBuiltOfNamedParts()

@@ -4,8 +4,10 @@
 #include "ZrMessageBox.h"
 #include "ZrTestMain.h"
 
+#include <QtCore/QLoggingCategory>
 #include <QtCore/QTimer>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QLayout>
 #include <QtWidgets/QPushButton>
 
 namespace {
@@ -95,12 +97,14 @@ void tst_ZrDialogEnds::aPluginGoesWhileItsDialogIsOpen()
 void tst_ZrDialogEnds::aPluginGoesTenThousandTimes()
 {
     open(nullptr);
+    QLoggingCategory::setFilterRules("default.debug=false"); // a line for each
     for (int i = 0; i < 10000; ++i) {
         auto *const plugin = new HostedPlugin;
         m_dialog->addWidget(plugin);
         emit plugin->signalPluginWidgetSizeChanged();
         delete plugin;
     }
+    QLoggingCategory::setFilterRules(QString());
     auto *const work = m_dialog->findChild<QWidget *>("frame_work");
     QCOMPARE(work->layout()->count(), 0);
     QCOMPARE(work->findChildren<QWidget *>().size(), 0);
@@ -109,8 +113,6 @@ void tst_ZrDialogEnds::aPluginGoesTenThousandTimes()
 void tst_ZrDialogEnds::aPluginTellsItsEndToADialogThatGoes()
 {
     open(new TellingPlugin);
-    emit qobject_cast<ZrPluginBaseWidget *>(m_dialog->findChild<ZrPluginBaseWidget *>())
-        ->signalAddPluginDialogTitleWidget(new TellingPlugin);
     delete m_dialog;
     QVERIFY(!m_dialog);
 }

@@ -5,13 +5,13 @@ namespace {
 // A desk: the first screen with a panel at its top, a smaller one to its right and lower, an upright one to
 // its left and higher, and one above.
 constexpr QRect first(0, 30, 1920, 1050);
-constexpr QRect right(1920, 400, 1280, 720);
+constexpr QRect onTheRight(1920, 400, 1280, 720);
 constexpr QRect upright(-1080, -300, 1080, 1920);
 constexpr QRect above(0, -1440, 2560, 1440);
 
 QList<QRect> desk()
 {
-    return {first, right, upright, above};
+    return {first, onTheRight, upright, above};
 }
 } // namespace
 
@@ -39,7 +39,7 @@ void tst_ZrScreenFit::theScreenIsTheOneThatHoldsThePoint_data()
     QTest::newRow("first") << QPoint(100, 100) << first;
     QTest::newRow("first, last pixel") << QPoint(1919, 1079) << first;
     QTest::newRow("in the panel") << QPoint(100, 10) << QRect();
-    QTest::newRow("right") << QPoint(1920, 400) << right;
+    QTest::newRow("right") << QPoint(1920, 400) << onTheRight;
     QTest::newRow("beside the lower one") << QPoint(1920, 399) << QRect();
     QTest::newRow("left of the origin") << QPoint(-1, 0) << upright;
     QTest::newRow("left of and above the origin") << QPoint(-1080, -300) << upright;
@@ -71,7 +71,7 @@ void tst_ZrScreenFit::aWindowLeavesAnEdgeFree_data()
     QTest::addColumn<QRect>("screen");
     QTest::addColumn<QSize>("expected");
     QTest::newRow("first") << first << QSize(1900, 1030);
-    QTest::newRow("right") << right << QSize(1260, 700);
+    QTest::newRow("right") << onTheRight << QSize(1260, 700);
     QTest::newRow("upright") << upright << QSize(1060, 1900);
     QTest::newRow("hardly a screen") << QRect(0, 0, 15, 20) << QSize(1, 1);
 }
@@ -93,7 +93,7 @@ void tst_ZrScreenFit::aLargerWindowGoesToTheScreensCorner_data()
     QTest::newRow("one too wide") << QRect(at, QSize(1901, 1030)) << first << QPoint(10, 200);
     QTest::newRow("one too high") << QRect(at, QSize(1900, 1031)) << first << QPoint(300, 40);
     QTest::newRow("both") << QRect(at, QSize(3000, 3000)) << first << QPoint(10, 40);
-    QTest::newRow("both, on the right") << QRect(at, QSize(3000, 3000)) << right << QPoint(1930, 410);
+    QTest::newRow("both, on the right") << QRect(at, QSize(3000, 3000)) << onTheRight << QPoint(1930, 410);
     QTest::newRow("both, left and above") << QRect(at, QSize(3000, 3000)) << upright << QPoint(-1070, -290);
     QTest::newRow("high, above") << QRect(at, QSize(100, 3000)) << above << QPoint(300, -1430);
     // What fits stays, wherever it is: a caller has put it there.
