@@ -75,6 +75,7 @@ QString ZrPluginDesk::freeName(const QString &pluginId) const
 
 void ZrPluginDesk::place(ZrPluginDock *dock)
 {
+    dock->showAll();
     m_window->addDockWidget(Qt::TopDockWidgetArea, dock, Qt::Vertical);
     dock->show();
 }

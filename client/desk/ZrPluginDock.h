@@ -29,6 +29,9 @@ public:
     ZrPluginTitleBar *title() const { return m_title; }
     QString pluginId() const { return m_pluginId; }
     void setPluginId(const QString &pluginId) { m_pluginId = pluginId; }
+    /// Shows all properties anew: a plugin may have set some without a word while it was initialised, its
+    /// icon among them.
+    void showAll() { showProperty(QString()); }
 
 signals:
     /// The user wants a second one beside this.

@@ -1,6 +1,7 @@
 #include "PluginProbe.h"
 
 #include "zrdefine/Constants.h"
+#include "zrdefine/PluginPropety.h"
 
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QVBoxLayout>
@@ -9,6 +10,7 @@ void PluginProbe::initPlugin()
 {
     calls.append(QStringLiteral("initPlugin"));
     setPluginWidgetTitle(QStringLiteral("Probe"));
+    setProperty(PluginPropety::PLUGINWIDGET_TITLEICON.toLatin1().constData(), titleIcon); // told to nobody
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(new QLineEdit(this));
     titleWidgets[0] = new QWidget(this);

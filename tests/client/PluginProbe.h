@@ -22,7 +22,8 @@ public:
     void setPluginLayoutPropertiesByWidgetName(QString name, const QVariant &value) override;
 
     QStringList calls;
-    QString refusal; // not empty: it can't be closed
+    QString refusal;   // not empty: it can't be closed
+    QString titleIcon; // set by initPlugin() without a signal
     int moves = 0;
     QVariantMap account;
     QVariantMap ownProperties;

@@ -6,6 +6,7 @@
 #include "ZrReferenceHost.h"
 #include "ZrTestMain.h"
 
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMainWindow>
 
 /// Plugins of one menu in their docks.
@@ -19,6 +20,7 @@ private slots:
     void aPluginOpensInADock();
     void eachDockHasItsName();
     void theDockStandsBeforeThePluginIsInitialised();
+    void whatIsSetWithoutAWordIsShown();
     void anUnpreparedPluginGetsItsDockToo();
     void propertiesComeBeforeTheInitialisation();
     void theGuardSeesTheMaking();
@@ -56,6 +58,8 @@ void tst_ZrPluginDesk::init()
 {
     ZrReferenceHost::Options options;
     options.configFolder = m_folder.path();
+    options.skinRoot = QStringLiteral(ZR_SKINS);
+    options.skinId = QStringLiteral("dark");
     QVERIFY2(m_host.start(options), qPrintable(m_host.errorText()));
     m_window = std::make_unique<QMainWindow>();
     m_desk = new ZrPluginDesk(m_window.get(), QStringLiteral("desk"));
@@ -109,6 +113,20 @@ void tst_ZrPluginDesk::theDockStandsBeforeThePluginIsInitialised()
     const PluginProbe *const plugin = probeOf(dock);
     QCOMPARE(plugin->titleWidgets[0]->parentWidget(), dock->title());
     QCOMPARE(plugin->titleWidgets[1]->parentWidget(), dock->title());
+}
+
+void tst_ZrPluginDesk::whatIsSetWithoutAWordIsShown()
+{
+    m_host.registerPlugin(id, [this] {
+        auto *const made = new PluginProbe;
+        made->titleIcon = QStringLiteral("plugins/blotter/blotter.svg");
+        m_desk->prepare(id, made);
+        return made;
+    });
+    const ZrPluginDock *const dock = m_desk->open(id, {}, &m_error);
+    const auto *const icon = dock->title()->findChild<QLabel *>(QStringLiteral("pluginIcon"));
+    QVERIFY(!icon->isHidden());
+    QVERIFY(!icon->pixmap(Qt::ReturnByValue).isNull());
 }
 
 void tst_ZrPluginDesk::anUnpreparedPluginGetsItsDockToo()
