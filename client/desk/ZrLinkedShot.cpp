@@ -51,12 +51,19 @@ void clickRow(const ZrTableView *grid)
     click(table->viewport(), cell.center());
 }
 
-void waitForRow(const ZrTableView *grid)
+// Clicks in the first grid and waits for the second one to follow: its own signal tells, the focus sets a row
+// too.
+void linkRows(const ZrTableView *first, const ZrTableView *second)
 {
+    bool followed = false;
+    const auto link =
+        QObject::connect(second, &ZrTableView::currentIndexChanged, second, [&] { followed = true; });
     QElapsedTimer waited;
     waited.start();
-    while (!grid->currentIndex().isValid() && waited.elapsed() < MostWaitMs)
+    clickRow(first);
+    while (!followed && waited.elapsed() < MostWaitMs)
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, MostWaitMs);
+    QObject::disconnect(link);
 }
 
 // Below a band the button stands in the lower half of the head.
@@ -92,8 +99,7 @@ QString ZrLinkedShot::write(QMainWindow *window, const QList<ZrPluginDock *> &do
     const QList<ZrTableView *> grids = gridsOf(docks);
     if (grids.size() < 2)
         return QString();
-    clickRow(grids.at(0));
-    waitForRow(grids.at(1));
+    linkRows(grids.at(0), grids.at(1));
     QDialog *const popup = openPopup(grids.at(0));
     const QPixmap picture = withPopup(window, popup);
     if (popup)
