@@ -28,7 +28,7 @@ struct ZrWorkstationPaths
     QString skins;
     QString data; // pictures outside of any skin
     QStringList recordings;
-    QString config;  // empty: the user's own folder
+    QString config;              // empty: the user's own folder
     QString plugins = QString(); // empty for none
 };
 
