@@ -18,11 +18,15 @@ private slots:
 private:
     ZrSkinProperties::List read(const QByteArray &bytes)
     {
-        if (!scene.writeFile(QStringLiteral("a.ini"), bytes))
+        // A file of its own each time: one of the same size, written within the same tick of the file
+        // system's clock, would be taken for the one before.
+        const QString name = QStringLiteral("%1.ini").arg(++m_files);
+        if (!scene.writeFile(name, bytes))
             qFatal("the file can't be written");
-        return ZrSkinProperties::read(scene.folder(QStringLiteral("a.ini")));
+        return ZrSkinProperties::read(scene.folder(name));
     }
     FrameScene scene;
+    int m_files = 0;
 };
 
 void TestZrSkinProperties::fileLiesInThePluginsFolder()
