@@ -8,7 +8,9 @@
 ///
 /// Shape:   a signature, four bytes that tell the toolkit, then a binary map.
 /// Threads: reentrant.
-/// Errors:  read() gives false when the bytes are no such data, or hold more than maxBytes.
+/// Errors:  read() gives false when the bytes are no such data, hold more than maxBytes, or claim more than
+/// they
+///          hold.
 struct ZrPluginMeta
 {
     static constexpr int maxBytes = 256 * 1024;

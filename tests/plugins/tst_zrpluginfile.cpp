@@ -142,6 +142,14 @@ void tst_ZrPluginFile::whatIsWrongIsTold_data()
     row("lists in lists in lists",
         PluginScene::withMeta(m_content, "\xbf\x04" + QByteArray(200 * 1000, '\x81')),
         ZrPluginReason::Damaged);
+    row("lists that claim a million each",
+        PluginScene::withMeta(m_content, "\xbf\x04" + QByteArray("\x9a\x00\x0f\xff\xff", 5).repeated(500)),
+        ZrPluginReason::Damaged);
+    row("a text that claims gigabytes", PluginScene::withMeta(m_content, "\xbf\x04\x7a\x7f\xff\xff\xff"),
+        ZrPluginReason::Damaged);
+    row("lists in lists of their own",
+        PluginScene::withMeta(m_content, "\xbf\x04" + QByteArray(40, '\x81') + QByteArray("\x00\xff", 2)),
+        ZrPluginReason::Damaged);
     row("more meta data than any", PluginScene::withMeta(m_content, "\xbf\xff" + QByteArray(300 * 1024, 'x')),
         ZrPluginReason::Damaged);
     row("an older toolkit", withByte(m_content, meta + toolkitMajorAt, 4), ZrPluginReason::OtherBuild);
