@@ -81,6 +81,7 @@ void ZrDistinctCells::Probe::take(const QString &name, const QVariant &value)
 QList<ItemRoleMap> ZrDistinctCells::ofColumn(const RecordDataList &rows, int column)
 {
     ZrDistinctCells distinct;
+    distinct.reserve(rows.size());
     const QList<int> columns{column};
     for (int row = 0; row < rows.size(); ++row) {
         if (row % ZrRecordFetch::BlockSize == 0)
@@ -91,6 +92,12 @@ QList<ItemRoleMap> ZrDistinctCells::ofColumn(const RecordDataList &rows, int col
             distinct.add(*cell);
     }
     return distinct.m_cells;
+}
+
+void ZrDistinctCells::reserve(int count)
+{
+    m_cells.reserve(count);
+    m_hashes.reserve(count);
 }
 
 bool ZrDistinctCells::add(const ItemRoleMap &cell)

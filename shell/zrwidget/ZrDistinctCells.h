@@ -24,6 +24,8 @@ public:
     /// The distinct cells of a column. Rows without the column add nothing.
     static QList<ItemRoleMap> ofColumn(const RecordDataList &rows, int column);
 
+    /// Makes room for cells that are to come.
+    void reserve(int count);
     /// Keeps the cell; false when an equal one stands there already.
     bool add(const ItemRoleMap &cell);
     const QList<ItemRoleMap> &cells() const { return m_cells; }

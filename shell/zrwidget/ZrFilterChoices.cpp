@@ -60,13 +60,13 @@ void ZrFilterChoices::writeTick(RecordData &choice, const QVariant &state)
     choice[ZrRowStateColumn].insert(ITEM_USERROLE, state);
 }
 
+// With an empty state cell: the list that shows the choices would make it anyway, in a copy of each.
 RecordDataList ZrFilterChoices::wrapped(const QList<ItemRoleMap> &cells)
 {
     RecordDataList records;
     records.reserve(cells.size());
     for (const ItemRoleMap &cell : cells) {
         RecordData record;
-        // The list that shows the choices would make the state cell of each anyway, in a copy of the record.
         record.insert(record.constEnd(), ZrRowStateColumn, ItemRoleMap());
         record.insert(record.constEnd(), TextCell, cell);
         records.append(record);
@@ -82,25 +82,52 @@ void ZrFilterChoices::fill(int valueType, const QList<ItemRoleMap> &cells, const
     // A column whose rows are all gone has a type, but nothing that ranges could be made of.
     if (found.isEmpty() && !cells.isEmpty())
         found = wrapped(ZrTableFilterParse::getFilterRecordList(valueType, cells));
+    clear(found.size());
     const ZrFilterTicks ticks(filter);
-    m_records.clear();
-    m_texts.clear();
-    m_rows.clear();
-    m_ticked = 0;
-    m_records.reserve(found.size());
-    m_texts.reserve(found.size());
-    m_rows.reserve(found.size());
     for (const RecordData &choice : qAsConst(found)) {
-        int &row = m_rows[keyText(choice)]; // 0 for a new one
-        if (row > 0)
+        const QString key = keyText(choice);
+        const int slot = slotOf(key);
+        if (m_slots.at(slot) != 0)
             continue;
-        m_records.append(choice);
-        row = m_records.size();
-        m_texts.append(textOf(cellOf(choice), ITEM_DISPLAYROLE));
+        append(choice, key, slot);
         if (!filter.isEmpty() && ticks.holds(cellOf(choice)))
             writeTick(m_records.last(), true);
         m_ticked += isTicked(m_records.constLast()) ? 1 : 0;
     }
+}
+
+void ZrFilterChoices::clear(int expected)
+{
+    m_records.clear();
+    m_texts.clear();
+    m_keys.clear();
+    m_ticked = 0;
+    m_records.reserve(expected);
+    m_texts.reserve(expected);
+    m_keys.reserve(expected);
+    int size = 4;
+    while (size < 2 * expected)
+        size *= 2;
+    m_slots.fill(0, size);
+}
+
+int ZrFilterChoices::slotOf(const QString &key) const
+{
+    const uint mask = uint(m_slots.size()) - 1;
+    uint slot = qHash(key) & mask;
+    while (m_slots.at(int(slot)) != 0 && m_keys.at(m_slots.at(int(slot)) - 1) != key)
+        slot = (slot + 1) & mask;
+    return int(slot);
+}
+
+void ZrFilterChoices::append(const RecordData &choice, const QString &key, int slot)
+{
+    m_records.append(choice);
+    if (!choice.contains(ZrRowStateColumn))
+        m_records.last().insert(ZrRowStateColumn, ItemRoleMap());
+    m_keys.append(key);
+    m_texts.append(textOf(cellOf(choice), ITEM_DISPLAYROLE));
+    m_slots[slot] = m_records.size();
 }
 
 void ZrFilterChoices::tickAll(int state)
@@ -112,7 +139,7 @@ void ZrFilterChoices::tickAll(int state)
 
 void ZrFilterChoices::tick(const QString &keyText, int state)
 {
-    const int row = m_rows.value(keyText) - 1;
+    const int row = m_slots.isEmpty() ? -1 : m_slots.at(slotOf(keyText)) - 1;
     if (row < 0)
         return;
     m_ticked += int(state != 0) - int(isTicked(m_records.at(row)));

@@ -2,7 +2,6 @@
 
 #include "zrwidget_global.h"
 
-#include <QtCore/QHash>
 #include <QtCore/QVector>
 #include <zrutils/ZrRecordTypes.h>
 
@@ -48,6 +47,10 @@ public:
 private:
     static RecordDataList wrapped(const QList<ItemRoleMap> &cells);
     static void writeTick(RecordData &choice, const QVariant &state);
+    void clear(int expected);
+    void append(const RecordData &choice, const QString &key, int slot);
+    /// Where the table holds the key, or where it would go.
+    int slotOf(const QString &key) const;
     QVector<int> tickedRows() const;
     Groups textConditions() const;
     Groups rangeConditions() const;
@@ -55,6 +58,9 @@ private:
     int m_valueType = 0;
     RecordDataList m_records;
     QVector<QString> m_texts;
-    QHash<QString, int> m_rows; // key text -> row, counted from 1
+    // Key texts by row, and an open table of rows + 1 that finds them: a hash would make a hundred thousand
+    // small blocks for as many choices, and free them at the next opening.
+    QVector<QString> m_keys;
+    QVector<int> m_slots;
     int m_ticked = 0;
 };

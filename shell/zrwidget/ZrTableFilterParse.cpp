@@ -95,6 +95,7 @@ QList<ItemRoleMap> ZrTableFilterParse::getFilterRecordList(int valueType, const 
 QList<ItemRoleMap> ZrTableFilterParse::distinctTexts(const QList<ItemRoleMap> &cells)
 {
     ZrDistinctCells distinct;
+    distinct.reserve(cells.size());
     for (const ItemRoleMap &cell : cells) {
         if (isChoice(cell)) {
             distinct.add(cell);

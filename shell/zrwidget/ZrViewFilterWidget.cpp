@@ -197,18 +197,16 @@ void ZrViewFilterWidget::fitTo(const QVector<QString> &texts)
     m_tableView->setColumnWidth(TextColumn, width);
 }
 
-void ZrViewFilterWidget::showList(const RecordDataList &choices, const RecordData &headRow)
+void ZrViewFilterWidget::showList(RecordDataList choices, const RecordData &headRow)
 {
-    RecordDataList rows;
-    rows.reserve(choices.size() + 1);
-    rows.append(headRow);
-    rows.append(choices);
-    m_tableView->updateRecordDataList(rows);
+    choices.prepend(headRow);
+    m_tableView->updateRecordDataList(choices);
 }
 
+// With an empty state cell, as the choices have it: the list would make it, and take its rows apart for that.
 RecordData ZrViewFilterWidget::headRow() const
 {
-    return {{TextColumn, {{ITEM_DISPLAYROLE, m_allText}}}};
+    return {{ZrRowStateColumn, {}}, {TextColumn, {{ITEM_DISPLAYROLE, m_allText}}}};
 }
 
 RecordData ZrViewFilterWidget::headRow(bool isTicked) const

@@ -78,7 +78,7 @@ private:
     void connectKeys();
     void leavePlugin();
     void fitTo(const QVector<QString> &texts);
-    void showList(const RecordDataList &choices, const RecordData &headRow);
+    void showList(RecordDataList choices, const RecordData &headRow);
     RecordData headRow() const;
     RecordData headRow(bool isTicked) const;
     bool isHeadRow(int row, const RecordData &record) const;

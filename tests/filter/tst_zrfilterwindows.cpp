@@ -140,6 +140,10 @@ void tst_ZrFilterWindows::itOpensOverAModalDialog()
         open(FilterScene::Text);
         RealDesktop::click(rowMiddle(1));
         QTRY_COMPARE(m_scene->shown(), QStringList({"k0", "k3", "k6"}));
+        // Escape is the popup's first, and the dialog's only then.
+        RealDesktop::key("Escape");
+        QTRY_VERIFY(!m_scene->isOpen());
+        QVERIFY(host.isVisible());
         host.done(1);
     };
     QMetaObject::invokeMethod(&host, use, Qt::QueuedConnection);
