@@ -392,8 +392,8 @@ void tst_ZrDialog::theModePlacesTheDialog_data()
     QTest::newRow("over the parent") << 1 << true
                                      << QPoint(60 + 100 + (500 - 420) / 2, 40 + 50 + (400 - 162) / 2);
     QTest::newRow("over the main window") << 2 << true << QPoint(60 + (800 - 420) / 2, 40 + (600 - 162) / 2);
-    QTest::newRow("on the screen") << 3 << true << QPoint((800 - 420) / 2, (800 - 162) / 2);
-    QTest::newRow("without a parent") << 1 << false << QPoint((800 - 420) / 2, (800 - 162) / 2);
+    QTest::newRow("on the screen") << 3 << true << QPoint((800 - 420) / 2, (600 - 162) / 2);
+    QTest::newRow("without a parent") << 1 << false << QPoint((800 - 420) / 2, (600 - 162) / 2);
 }
 
 void tst_ZrDialog::theModePlacesTheDialog()
@@ -401,7 +401,7 @@ void tst_ZrDialog::theModePlacesTheDialog()
     QFETCH(int, mode);
     QFETCH(bool, hasParent);
     QFETCH(QPoint, expected);
-    QCOMPARE(screen(), QRect(0, 0, 800, 800));
+    QCOMPARE(screen(), QRect(0, 0, 800, 600));
     QWidget part(&m_scene->mainWindow);
     part.setGeometry(100, 50, 500, 400);
     const auto dialog = make(bothButtons, true, hasParent ? &part : nullptr, mode);
