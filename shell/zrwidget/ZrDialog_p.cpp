@@ -109,7 +109,8 @@ void ZrDialogPrivate::setResizable(bool on)
         return;
     }
     // The label too: over a part that tells nothing of the mouse the edges last seen would stay.
-    for (QWidget *const part : QWidgetList{q, head.frame, head.label, frameWork, mainFrame()})
+    const QWidgetList parts{q, head.frame, head.label, frameWork, mainFrame()};
+    for (QWidget *const part : parts)
         m_tracked.track(part);
     m_tracked.trackTree(content.widget());
     for (QFrame *const ground : {frameWork, mainFrame()})

@@ -17,8 +17,9 @@ QSize ZrScreenFit::most(const QRect &screen)
 QPoint ZrScreenFit::corner(const QRect &frame, const QRect &screen)
 {
     const QSize bound = most(screen);
-    return {frame.width() > bound.width() ? screen.left() + EdgePx : frame.left(),
-            frame.height() > bound.height() ? screen.top() + EdgePx : frame.top()};
+    // One that has just the bound's size has mostly been cut to it, and only the corner leaves room for that.
+    return {frame.width() >= bound.width() ? screen.left() + EdgePx : frame.left(),
+            frame.height() >= bound.height() ? screen.top() + EdgePx : frame.top()};
 }
 
 QPoint ZrScreenFit::centred(const QRect &frame, const QRect &target)

@@ -21,8 +21,8 @@ public:
     static QRect screenAt(const QList<QRect> &screens, const QPoint &pos);
     /// The largest window for a screen.
     static QSize most(const QRect &screen);
-    /// Where a window's corner goes: it stays where it is, but one that is too wide for the screen goes to
-    /// the screen's left, and one that is too high to its top.
+    /// Where a window's corner goes: it stays where it is, but one that takes all of the screen's width goes
+    /// to its left, and one that takes all of its height to its top.
     static QPoint corner(const QRect &frame, const QRect &screen);
     /// The corner of a window in the middle of something.
     static QPoint centred(const QRect &frame, const QRect &target);

@@ -24,7 +24,7 @@ public:
 
     /// Centres `window` as its mode says.
     static void place(QWidget *window, int mode);
-    /// No larger than the screen in use, less an edge; a window that was larger goes to the screen's corner.
+    /// No larger than the screen in use, less an edge; a window as large as that goes to the screen's corner.
     static void fitToScreen(QWidget *window);
     /// What the mode centres on; null when there is nothing of a usable size.
     static QRect target(const QWidget &window, int mode);

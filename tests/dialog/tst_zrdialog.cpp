@@ -337,15 +337,18 @@ void tst_ZrDialog::aPluginTellsItsSize()
 void tst_ZrDialog::aLargerDialogIsCappedByTheScreen_data()
 {
     QTest::addColumn<QSize>("content");
-    QTest::newRow("too wide") << QSize(5000, 100);
-    QTest::newRow("too high") << QSize(300, 5000);
-    QTest::newRow("both") << QSize(5000, 5000);
-    QTest::newRow("beyond counting") << QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    QTest::addColumn<QPoint>("expected");
+    QTest::newRow("fits") << QSize(300, 100) << QPoint(33, 44);
+    QTest::newRow("too wide") << QSize(5000, 100) << QPoint(10, 44);
+    QTest::newRow("too high") << QSize(300, 5000) << QPoint(33, 10);
+    QTest::newRow("both") << QSize(5000, 5000) << QPoint(10, 10);
+    QTest::newRow("beyond counting") << QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX) << QPoint(10, 10);
 }
 
 void tst_ZrDialog::aLargerDialogIsCappedByTheScreen()
 {
     QFETCH(QSize, content);
+    QFETCH(QPoint, expected);
     const auto dialog = make(bothButtons, true);
     dialog->move(33, 44);
     auto *const widget = new QWidget;
@@ -353,13 +356,17 @@ void tst_ZrDialog::aLargerDialogIsCappedByTheScreen()
     dialog->addWidget(widget);
     const QSize most = screen().size() - QSize(20, 20);
     QCOMPARE(dialog->maximumSize(), most);
-    QCOMPARE(dialog->size().boundedTo(most), dialog->size());
-    // The size was taken with the bound of before, so that it doesn't count as too large any more.
+    QCOMPARE(dialog->pos(), expected);
+    QCOMPARE(dialog->width() == most.width(), content.width() >= most.width());
+    QCOMPARE(dialog->height() == most.height(), content.height() >= most.height());
+    QVERIFY(screen().contains(dialog->frameGeometry()));
+    // Where the bound was another one, as on a screen before, it's the same.
     dialog->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    dialog->resize(content);
+    dialog->resize(most + QSize(300, 300));
+    dialog->move(33, 44);
+    widget->resize(content.expandedTo(most));
     dialog->slotPluginWidgetSizeChanged();
-    dialog->show();
-    QCOMPARE(dialog->size().boundedTo(most), dialog->size());
+    QCOMPARE(dialog->frameGeometry(), QRect(QPoint(10, 10), most));
 }
 
 // A content that asks for more than the screen has is cut rather than the buttons below it.
@@ -392,8 +399,8 @@ void tst_ZrDialog::theModePlacesTheDialog_data()
     QTest::newRow("over the parent") << 1 << true
                                      << QPoint(60 + 100 + (500 - 420) / 2, 40 + 50 + (400 - 162) / 2);
     QTest::newRow("over the main window") << 2 << true << QPoint(60 + (800 - 420) / 2, 40 + (600 - 162) / 2);
-    QTest::newRow("on the screen") << 3 << true << QPoint((800 - 420) / 2, (800 - 162) / 2);
-    QTest::newRow("without a parent") << 1 << false << QPoint((800 - 420) / 2, (800 - 162) / 2);
+    QTest::newRow("on the screen") << 3 << true << QPoint((800 - 420) / 2, (600 - 162) / 2);
+    QTest::newRow("without a parent") << 1 << false << QPoint((800 - 420) / 2, (600 - 162) / 2);
 }
 
 void tst_ZrDialog::theModePlacesTheDialog()
@@ -401,7 +408,7 @@ void tst_ZrDialog::theModePlacesTheDialog()
     QFETCH(int, mode);
     QFETCH(bool, hasParent);
     QFETCH(QPoint, expected);
-    QCOMPARE(screen(), QRect(0, 0, 800, 800));
+    QCOMPARE(screen(), QRect(0, 0, 800, 600));
     QWidget part(&m_scene->mainWindow);
     part.setGeometry(100, 50, 500, 400);
     const auto dialog = make(bothButtons, true, hasParent ? &part : nullptr, mode);

@@ -89,9 +89,11 @@ void tst_ZrScreenFit::aLargerWindowGoesToTheScreensCorner_data()
     QTest::addColumn<QRect>("screen");
     QTest::addColumn<QPoint>("expected");
     const QPoint at(300, 200);
-    QTest::newRow("fits exactly") << QRect(at, QSize(1900, 1030)) << first << at;
-    QTest::newRow("one too wide") << QRect(at, QSize(1901, 1030)) << first << QPoint(10, 200);
-    QTest::newRow("one too high") << QRect(at, QSize(1900, 1031)) << first << QPoint(300, 40);
+    QTest::newRow("one less") << QRect(at, QSize(1899, 1029)) << first << at;
+    QTest::newRow("all of the width") << QRect(at, QSize(1900, 1029)) << first << QPoint(10, 200);
+    QTest::newRow("all of the height") << QRect(at, QSize(1899, 1030)) << first << QPoint(300, 40);
+    QTest::newRow("too wide") << QRect(at, QSize(1901, 1029)) << first << QPoint(10, 200);
+    QTest::newRow("too high") << QRect(at, QSize(1899, 1031)) << first << QPoint(300, 40);
     QTest::newRow("both") << QRect(at, QSize(3000, 3000)) << first << QPoint(10, 40);
     QTest::newRow("both, on the right") << QRect(at, QSize(3000, 3000)) << onTheRight << QPoint(1930, 410);
     QTest::newRow("both, left and above") << QRect(at, QSize(3000, 3000)) << upright << QPoint(-1070, -290);
