@@ -2,6 +2,7 @@
 #include "ZrBlotterFields.h"
 #include "ZrBlotterPanel.h"
 #include "ZrBlotterPlugin.h"
+#include "ZrBlotterPresenter.h"
 #include "ZrLinkageCombox.h"
 #include "ZrQuietPlatform.h"
 #include "ZrReferenceHost.h"
@@ -202,20 +203,23 @@ void tst_ZrBlotterPlugin::anotherGroupIsNoNeighbour()
     publish(1, "600000.SH");
     QTRY_COMPARE(elsewhere->panel()->view()->getRowCount(), 1);
     QTRY_COMPARE(second->panel()->view()->getRowCount(), 1);
-    // Told by a choice only: a grid that gets the focus makes its first row the current one.
-    QSignalSpy otherGroup(second->panel()->view(), &ZrTableView::currentIndexChanged);
-    QSignalSpy otherMenu(elsewhere->panel()->view(), &ZrTableView::currentIndexChanged);
+    // What comes from the bus, not the current row: a grid that gets the focus makes its first row that.
+    const auto presenter = [](const ZrBlotterPlugin *plugin) {
+        return static_cast<ZrBlotterPresenter *>(plugin->getPluginPresenter());
+    };
+    QSignalSpy otherGroup(presenter(second), &ZrBlotterPresenter::signalSecurityChosen);
+    QSignalSpy otherMenu(presenter(elsewhere), &ZrBlotterPresenter::signalSecurityChosen);
     emit first->panel()->signalSecurityChosen(QStringLiteral("600000.SH"));
     QVERIFY(m_host.waitIdle(60000));
-    QCoreApplication::processEvents();
     QCOMPARE(otherGroup.size(), 0);
     QCOMPARE(otherMenu.size(), 0);
     // Back in the group it follows again.
     second->findChild<ZrLinkageCombox *>()->setCurrentIndex(0);
     emit first->panel()->signalSecurityChosen(QStringLiteral("600000.SH"));
-    QTRY_COMPARE(otherGroup.size(), 1);
-    QCOMPARE(currentSymbol(second), QStringLiteral("600000.SH"));
+    QVERIFY(m_host.waitIdle(60000));
+    QCOMPARE(otherGroup.size(), 1);
     QCOMPARE(otherMenu.size(), 0);
+    QTRY_COMPARE(currentSymbol(second), QStringLiteral("600000.SH"));
 }
 
 void tst_ZrBlotterPlugin::itMayGoWhileMessagesWait()
