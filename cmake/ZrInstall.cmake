@@ -44,6 +44,7 @@ if(ZR_HOST STREQUAL "reference")
         PATH_VARS zr_data_dir)
     write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/zrwidgetConfigVersion.cmake COMPATIBILITY SameMinorVersion)
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/zrwidgetConfig.cmake ${CMAKE_CURRENT_BINARY_DIR}/zrwidgetConfigVersion.cmake
+        ${PROJECT_SOURCE_DIR}/cmake/ZrPlugin.cmake ${PROJECT_SOURCE_DIR}/cmake/ZrSealFile.cmake
         DESTINATION ${zr_cmake_dir})
 endif()
 configure_file(${PROJECT_SOURCE_DIR}/cmake/zrwidget.pc.in ${CMAKE_CURRENT_BINARY_DIR}/zrwidget.pc @ONLY)
