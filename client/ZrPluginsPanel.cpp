@@ -46,6 +46,7 @@ ZrPluginsPanel::ZrPluginsPanel(ZrPluginCatalogue *catalogue, QWidget *parent)
     , m_atStart(new QCheckBox(tr("Load at start"), this))
     , m_load(new QPushButton(tr("Load now"), this))
 {
+    setAttribute(Qt::WA_StyledBackground); // the sheet's, also where the dock is drawn alone
     createLayout();
     createColumns();
     showEntries();
@@ -88,9 +89,9 @@ void ZrPluginsPanel::createLayout()
 
 void ZrPluginsPanel::createColumns()
 {
-    const QStringList titles = {tr("File"),   tr("ID"),        tr("Version"),  tr("State"),
-                                tr("Reason"), tr("Read (ms)"), tr("Load (ms)")};
-    const int widths[ColumnCount] = {200, 140, 80, 100, 420, 90, 90};
+    const QStringList titles = {tr("File"),      tr("ID"),        tr("Version"), tr("State"),
+                                tr("Read (ms)"), tr("Load (ms)"), tr("Reason")};
+    const int widths[ColumnCount] = {200, 140, 80, 100, 90, 90, 420};
     HeadList heads;
     for (const QString &title : titles)
         heads.append({{HEAD_DISPLAYROLE, title}});

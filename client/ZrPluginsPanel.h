@@ -25,7 +25,7 @@ class ZrPluginsPanel : public QWidget
 {
     Q_OBJECT
 public:
-    enum Column { File, Id, Version, State, Reason, ReadTime, LoadTime, ColumnCount };
+    enum Column { File, Id, Version, State, ReadTime, LoadTime, Reason, ColumnCount };
 
     explicit ZrPluginsPanel(ZrPluginCatalogue *catalogue, QWidget *parent = nullptr);
 
