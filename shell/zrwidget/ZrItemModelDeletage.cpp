@@ -1,6 +1,8 @@
 #include "ZrItemModelDeletage.h"
 
+#include "ZrCellText.h"
 #include "ZrItemModelDeletage_p.h"
+#include "ZrItemStyle.h"
 #include "ZrPlainCell.h"
 #include "ZrPlainText.h"
 #include "ZrRoleKeys.h"
@@ -74,10 +76,13 @@ void ZrItemModelDeletage::initStyleOption(QStyleOptionViewItem *option, const QM
 void ZrItemModelDeletage::drawItem(QPainter *painter, QStyleOptionViewItem *option) const
 {
     QStyle *const style = option->widget ? option->widget->style() : QApplication::style();
-    if (d->columnXMargin == 0)
-        style->drawControl(QStyle::CE_ItemViewItem, option, painter, option->widget);
-    else
+    if (d->columnXMargin != 0) {
         drawItemWithMargin(painter, option, style);
+        return;
+    }
+    QStyle *const toolkit = option->widget ? d->itemStyle->toolkitStyle(option->widget) : nullptr;
+    if (!toolkit || !d->cellText->draw(painter, *option, toolkit))
+        style->drawControl(QStyle::CE_ItemViewItem, option, painter, option->widget);
 }
 
 void ZrItemModelDeletage::drawItemWithMargin(QPainter *painter, QStyleOptionViewItem *option,

@@ -7,7 +7,11 @@
 #include <QtCore/QUrl>
 #include <QtGui/QColor>
 
+#include <memory>
+
+class ZrCellText;
 class ZrItemModelDeletage;
+class ZrItemStyle;
 
 /// State of a delegate.
 ///
@@ -19,6 +23,7 @@ class ZRWIDGET_PRIVATE_EXPORT ZrItemModelDeletagePrivate : public QObject
     Q_OBJECT
 public:
     explicit ZrItemModelDeletagePrivate(ZrItemModelDeletage *facade);
+    ~ZrItemModelDeletagePrivate() override;
 
     // Shared: the family may read and write these.
     ZrItemModelDeletage *const delegate; // not owned: our QObject parent
@@ -34,4 +39,6 @@ public:
     bool summaryMode = false; // the one-row table under a grid
     bool checkedRowHighlight = false;
     QColor checkedColor; // invalid: no highlight
+    const std::shared_ptr<ZrCellText> cellText;
+    ZrItemStyle *const itemStyle; // our QObject child
 };
