@@ -18,6 +18,7 @@
 #include <QtWidgets/QShortcut>
 #include <QtWidgets/QVBoxLayout>
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -95,11 +96,15 @@ void ZrViewFilterWidget::connectParts()
     connect(m_tableView, &ZrTableView::signalRowCheckStateChanged, this,
             &ZrViewFilterWidget::slotSignalRowCheckStateChanged);
     connect(m_tableView, &ZrTableView::clicked, this, &ZrViewFilterWidget::slotViewClicked);
-    QScrollBar *const bar = m_tableView->getTableView()->verticalScrollBar();
-    connect(bar, &QScrollBar::valueChanged, this, [this, bar](int value) {
-        if (value + bar->pageStep() >= bar->maximum())
-            loadMore();
-    });
+    // Queued: while the list is filled anew its bar has no range yet.
+    const QScrollBar *const bar = m_tableView->getTableView()->verticalScrollBar();
+    connect(
+        bar, &QScrollBar::valueChanged, this,
+        [this, bar] {
+            if (bar->value() + bar->pageStep() >= bar->maximum())
+                loadMore();
+        },
+        Qt::QueuedConnection);
     connect(m_searchEdit, &QLineEdit::textEdited, this, &ZrViewFilterWidget::slotSearchTextChanged);
 }
 
@@ -227,8 +232,14 @@ void ZrViewFilterWidget::loadMore()
 {
     const int from = m_loaded;
     m_loaded = qMin(m_found.size(), from + qMax(FirstRows, from));
-    if (m_loaded > from)
-        m_tableView->addRecordDataList(records(from, m_loaded));
+    RecordDataList more = records(from, m_loaded);
+    // The list would take a choice that is called like its head row for news of that row.
+    const auto isLikeHead = [this](const RecordData &choice) {
+        return ZrFilterChoices::keyText(choice) == m_allText;
+    };
+    more.erase(std::remove_if(more.begin(), more.end(), isLikeHead), more.end());
+    if (!more.isEmpty())
+        m_tableView->addRecordDataList(more);
 }
 
 // With an empty state cell, as the choices have it: the list would make it, and take its rows apart for that.

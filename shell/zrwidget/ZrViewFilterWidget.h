@@ -21,9 +21,9 @@ class ZrTableView;
 ///     | [ ] 600001.SH      |
 ///     +--------------------+
 ///
-/// Shape:     the list holds the first choices, and takes in more as it is scrolled to its end. Filled anew
-/// for each opening; the ticks come from the filter in force and each change of them
-///            is told at once. The search hides choices, it doesn't untick them. A press outside hides the
+/// Shape:     filled anew for each opening; the ticks come from the filter in force and each change of them
+///            is told at once. The search hides choices, it doesn't untick them. The list begins with some
+///            thousand choices and takes in more as it is scrolled to its end. A press outside hides the
 ///            dialog that the panel stands in, and so does escape.
 /// Units:     columns are logical numbers; sizes in logical px.
 /// Ownership: normal QWidget parent rules. What signalFilterStatusChanged reaches may end the grid: who owns
