@@ -60,6 +60,11 @@ void ZrFilterChoices::fill(int valueType, const QList<ItemRoleMap> &cells, const
         clear(ownChoices.size());
         for (const RecordData &choice : ownChoices)
             take(choice.value(TextCell), choice.value(ZrRowStateColumn));
+    } else if (valueType == QVariant::String) {
+        // Not the list of distinct texts: of what that leaves out, the key would be known here as well.
+        clear(cells.size());
+        for (const ItemRoleMap &cell : cells)
+            take(ZrTableFilterParse::textChoice(cell), ItemRoleMap());
     } else {
         // A column whose rows are all gone has a type, but nothing that ranges could be made of.
         const QList<ItemRoleMap> found =

@@ -96,19 +96,21 @@ QList<ItemRoleMap> ZrTableFilterParse::distinctTexts(const QList<ItemRoleMap> &c
 {
     ZrDistinctCells distinct;
     distinct.reserve(cells.size());
-    for (const ItemRoleMap &cell : cells) {
-        if (isChoice(cell)) {
-            distinct.add(cell);
-            continue;
-        }
-        ItemRoleMap choice;
-        choice.insert(ITEM_DISPLAYROLE, textOf(cell));
-        const auto raw = cell.constFind(ITEM_USERROLE);
-        if (raw != cell.constEnd())
-            choice.insert(ITEM_USERROLE, raw.value());
-        distinct.add(choice);
-    }
+    for (const ItemRoleMap &cell : cells)
+        distinct.add(textChoice(cell));
     return distinct.cells();
+}
+
+ItemRoleMap ZrTableFilterParse::textChoice(const ItemRoleMap &cell)
+{
+    if (isChoice(cell))
+        return cell;
+    ItemRoleMap choice;
+    choice.insert(ITEM_DISPLAYROLE, textOf(cell));
+    const auto raw = cell.constFind(ITEM_USERROLE);
+    if (raw != cell.constEnd())
+        choice.insert(ITEM_USERROLE, raw.value());
+    return choice;
 }
 
 void ZrTableFilterParse::getDateFilterRecord(int valueType, const QList<ItemRoleMap> &cells,
