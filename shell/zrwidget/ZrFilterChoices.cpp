@@ -61,10 +61,7 @@ void ZrFilterChoices::fill(int valueType, const QList<ItemRoleMap> &cells, const
         for (const RecordData &choice : ownChoices)
             take(choice.value(TextCell), choice.value(ZrRowStateColumn));
     } else if (valueType == QVariant::String) {
-        // Not the list of distinct texts: of what that leaves out, the key would be known here as well.
-        clear(cells.size());
-        for (const ItemRoleMap &cell : cells)
-            take(ZrTableFilterParse::textChoice(cell), ItemRoleMap());
+        fillTexts(cells);
     } else {
         // A column whose rows are all gone has a type, but nothing that ranges could be made of.
         const QList<ItemRoleMap> found =
@@ -84,30 +81,53 @@ void ZrFilterChoices::clear(int expected)
     m_texts.clear();
     m_keys.clear();
     m_ownStates.clear();
-    m_cells.reserve(expected);
     m_texts.reserve(expected);
     m_keys.reserve(expected);
+    m_ticks.clear();
+    m_ticks.reserve(expected);
     int slotCount = 4;
     while (slotCount < 2 * expected)
         slotCount *= 2;
     m_slots.fill(0, slotCount);
-    m_ticks.fill(QVariant(), 0);
+}
+
+// Not by the list of distinct texts: of what that leaves out, the key is known here as well. Cells that are
+// their own choices, as they mostly are, stay in the list that they came in.
+void ZrFilterChoices::fillTexts(const QList<ItemRoleMap> &cells)
+{
+    clear(cells.size());
+    int alike = 0;
+    for (; alike < cells.size(); ++alike) {
+        const ItemRoleMap &cell = cells.at(alike);
+        if (!ZrTableFilterParse::isTextChoice(cell) || !note(cell, QVariant()))
+            break;
+    }
+    m_cells = alike == cells.size() ? cells : cells.mid(0, alike);
+    for (int i = alike; i < cells.size(); ++i)
+        take(ZrTableFilterParse::textChoice(cells.at(i)), ItemRoleMap());
 }
 
 // The first of several with one key stays.
 void ZrFilterChoices::take(const ItemRoleMap &cell, const ItemRoleMap &state)
 {
-    const QString key = keyOf(cell);
-    const int slot = slotOf(key);
-    if (m_slots.at(slot) != 0)
+    if (!note(cell, state.value(ITEM_USERROLE)))
         return;
     if (!state.isEmpty())
         m_ownStates.insert(size(), state);
     m_cells.append(cell);
+}
+
+bool ZrFilterChoices::note(const ItemRoleMap &cell, const QVariant &tick)
+{
+    const QString key = keyOf(cell);
+    const int slot = slotOf(key);
+    if (m_slots.at(slot) != 0)
+        return false;
     m_keys.append(key);
     m_texts.append(textOf(cell, ITEM_DISPLAYROLE));
-    m_ticks.append(state.value(ITEM_USERROLE));
-    m_slots[slot] = size();
+    m_ticks.append(tick);
+    m_slots[slot] = m_keys.size();
+    return true;
 }
 
 void ZrFilterChoices::tickAsIn(const Groups &filter)

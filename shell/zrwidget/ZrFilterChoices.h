@@ -51,7 +51,10 @@ public:
 
 private:
     void clear(int expected);
+    void fillTexts(const QList<ItemRoleMap> &cells);
     void take(const ItemRoleMap &cell, const ItemRoleMap &state);
+    /// Notes the choice of the next row; false when its key is known.
+    bool note(const ItemRoleMap &cell, const QVariant &tick);
     void tickAsIn(const Groups &filter);
     /// Where the table holds the key, or where it would go.
     int slotOf(const QString &key) const;
@@ -62,7 +65,7 @@ private:
     int m_valueType = 0;
     // By row. Flat, and shared with the grid's cells: a node of memory for each choice would take longer to
     // make and to free than all the rest.
-    QVector<ItemRoleMap> m_cells;
+    QList<ItemRoleMap> m_cells;
     QVector<QString> m_texts;
     QVector<QString> m_keys;
     QVector<QVariant> m_ticks;          // invalid: never touched

@@ -21,6 +21,9 @@ public:
     /// `valueType` is the QVariant::Type of the column's raw values.
     static QList<ItemRoleMap> getFilterRecordList(int valueType, const QList<ItemRoleMap> &cells);
 
+    /// Whether a cell of a text column is its own choice, as the usual one is: a text shown, and perhaps a
+    /// raw value.
+    static bool isTextChoice(const ItemRoleMap &cell);
     /// The choice that one cell of a text column stands for.
     static ItemRoleMap textChoice(const ItemRoleMap &cell);
 
