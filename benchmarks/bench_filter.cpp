@@ -105,7 +105,6 @@ public:
         auto *const layout = new QVBoxLayout(m_window.get());
         m_search = new QLineEdit(m_window.get());
         auto *const list = new QListView(m_window.get());
-        list->setUniformItemSizes(true);
         layout->addWidget(m_search);
         layout->addWidget(list);
         auto *const model = new QStandardItemModel(m_window.get());

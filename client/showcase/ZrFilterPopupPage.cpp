@@ -13,6 +13,7 @@
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QVBoxLayout>
 
 namespace {
 /// Keeps dialogs that open meanwhile off the screen.
@@ -55,25 +56,29 @@ ZrTableView *grid()
     return view;
 }
 
-/// The popup of a column as a part of the page. Its grid goes with it.
-QDialog *popupOf(ZrTableView *view, int column)
+/// The panel of a column's popup as a part of the page, without the dialog around it. Its grid goes with it.
+QWidget *popupOf(ZrTableView *view, int column)
 {
-    ZrHeaderView *const head = view->getZrTableHorizontalHeader();
     {
         const OffScreen quiet;
-        pressFilterButton(head, column);
+        pressFilterButton(view->getZrTableHorizontalHeader(), column);
     }
-    auto *const dialog = head->findChild<QDialog *>();
-    if (!dialog) {
+    auto *const dialog = view->findChild<QDialog *>();
+    auto *const search = dialog ? dialog->findChild<QLineEdit *>() : nullptr;
+    if (!search) {
         delete view;
         return nullptr;
     }
     dialog->hide();
-    dialog->setAttribute(Qt::WA_DontShowOnScreen, false);
-    dialog->setParent(nullptr);
-    view->setParent(dialog);
+    auto *const place = new QWidget;
+    auto *const layout = new QVBoxLayout(place);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(search->parentWidget());
+    place->setFocusProxy(search);
+    place->setFixedSize(search->parentWidget()->size());
+    view->setParent(place); // behind the panel, which goes before it
     view->hide();
-    return dialog;
+    return place;
 }
 
 ZrTableView *ticked()
@@ -89,18 +94,18 @@ ZrTableView *ticked()
     return view;
 }
 
-QDialog *searched()
+QWidget *searched()
 {
-    QDialog *const dialog = popupOf(grid(), ZrOrderSample::Symbol);
-    if (!dialog)
+    QWidget *const popup = popupOf(grid(), ZrOrderSample::Symbol);
+    if (!popup)
         return nullptr;
-    auto *const search = dialog->findChild<QLineEdit *>();
+    auto *const search = popup->findChild<QLineEdit *>();
     search->setText(QStringLiteral("688"));
     emit search->textEdited(search->text());
-    return dialog;
+    return popup;
 }
 
-QDialog *withLongTexts()
+QWidget *withLongTexts()
 {
     ZrTableView *const view = grid();
     RecordData row = view->getRowData(1);
@@ -109,12 +114,12 @@ QDialog *withLongTexts()
     return popupOf(view, ZrOrderSample::Symbol);
 }
 
-QDialog *disabled()
+QWidget *disabled()
 {
-    QDialog *const dialog = popupOf(ticked(), ZrOrderSample::Symbol);
-    if (dialog)
-        dialog->setEnabled(false);
-    return dialog;
+    QWidget *const popup = popupOf(ticked(), ZrOrderSample::Symbol);
+    if (popup)
+        popup->setEnabled(false);
+    return popup;
 }
 
 void addPopups(ZrShowcasePage *page)

@@ -98,6 +98,8 @@ void ZrDistinctCells::reserve(int count)
 {
     m_cells.reserve(count);
     m_hashes.reserve(count);
+    while (m_slots.size() < 2 * count)
+        growTexts();
 }
 
 bool ZrDistinctCells::add(const ItemRoleMap &cell)

@@ -16,18 +16,21 @@ namespace LogicOperator = Vexlor_Values::LogicOperator;
 namespace {
 constexpr int TextCell = 0;
 
-const ItemRoleMap &cellOf(const RecordData &choice)
-{
-    static const ItemRoleMap none;
-    const auto cell = choice.constFind(TextCell);
-    return cell == choice.constEnd() ? none : *cell;
-}
-
 // Mostly a text already, which is shared then.
 QString textOf(const ItemRoleMap &cell, const QString &role)
 {
     const auto value = cell.constFind(role);
     return value == cell.constEnd() ? QString() : value->toString();
+}
+
+QString keyOf(const ItemRoleMap &cell)
+{
+    for (const QString *role : {&ITEM_USERROLE, &ITEM_DISPLAYROLE, &ITEM_CUSTOMROLE}) {
+        const QString text = textOf(cell, *role);
+        if (!text.isEmpty())
+            return text;
+    }
+    return QString();
 }
 
 QVariantMap condition(const QString &comparison, const QString &value, const QString &comment)
@@ -40,13 +43,7 @@ QVariantMap condition(const QString &comparison, const QString &value, const QSt
 
 QString ZrFilterChoices::keyText(const RecordData &choice)
 {
-    const ItemRoleMap &cell = cellOf(choice);
-    for (const QString *role : {&ITEM_USERROLE, &ITEM_DISPLAYROLE, &ITEM_CUSTOMROLE}) {
-        const QString text = textOf(cell, *role);
-        if (!text.isEmpty())
-            return text;
-    }
-    return QString();
+    return keyOf(choice.value(TextCell));
 }
 
 bool ZrFilterChoices::isTicked(const RecordData &choice)
@@ -55,60 +52,91 @@ bool ZrFilterChoices::isTicked(const RecordData &choice)
     return state != choice.constEnd() && state->value(ITEM_USERROLE).toBool();
 }
 
-void ZrFilterChoices::writeTick(RecordData &choice, const QVariant &state)
-{
-    choice[ZrRowStateColumn].insert(ITEM_USERROLE, state);
-}
-
-// With an empty state cell: the list that shows the choices would make it anyway, in a copy of each.
-RecordDataList ZrFilterChoices::wrapped(const QList<ItemRoleMap> &cells)
-{
-    RecordDataList records;
-    records.reserve(cells.size());
-    for (const ItemRoleMap &cell : cells) {
-        RecordData record;
-        record.insert(record.constEnd(), ZrRowStateColumn, ItemRoleMap());
-        record.insert(record.constEnd(), TextCell, cell);
-        records.append(record);
-    }
-    return records;
-}
-
 void ZrFilterChoices::fill(int valueType, const QList<ItemRoleMap> &cells, const Groups &filter,
                            const RecordDataList &ownChoices)
 {
     m_valueType = valueType;
-    RecordDataList found = ownChoices;
-    // A column whose rows are all gone has a type, but nothing that ranges could be made of.
-    if (found.isEmpty() && !cells.isEmpty())
-        found = wrapped(ZrTableFilterParse::getFilterRecordList(valueType, cells));
-    clear(found.size());
-    const ZrFilterTicks ticks(filter);
-    for (const RecordData &choice : qAsConst(found)) {
-        const QString key = keyText(choice);
-        const int slot = slotOf(key);
-        if (m_slots.at(slot) != 0)
-            continue;
-        append(choice, key, slot);
-        if (!filter.isEmpty() && ticks.holds(cellOf(choice)))
-            writeTick(m_records.last(), true);
-        m_ticked += isTicked(m_records.constLast()) ? 1 : 0;
+    if (!ownChoices.isEmpty()) {
+        clear(ownChoices.size());
+        for (const RecordData &choice : ownChoices)
+            take(choice.value(TextCell), choice.value(ZrRowStateColumn));
+    } else if (valueType == QVariant::String) {
+        fillTexts(cells);
+    } else {
+        // A column whose rows are all gone has a type, but nothing that ranges could be made of.
+        const QList<ItemRoleMap> found =
+            cells.isEmpty() ? cells : ZrTableFilterParse::getFilterRecordList(valueType, cells);
+        clear(found.size());
+        for (const ItemRoleMap &cell : found)
+            take(cell, ItemRoleMap());
     }
+    if (!filter.isEmpty())
+        tickAsIn(filter);
+    m_ticked = tickedRows().size();
 }
 
 void ZrFilterChoices::clear(int expected)
 {
-    m_records.clear();
+    m_cells.clear();
     m_texts.clear();
     m_keys.clear();
-    m_ticked = 0;
-    m_records.reserve(expected);
+    m_ownStates.clear();
     m_texts.reserve(expected);
     m_keys.reserve(expected);
-    int size = 4;
-    while (size < 2 * expected)
-        size *= 2;
-    m_slots.fill(0, size);
+    m_ticks.clear();
+    m_ticks.reserve(expected);
+    int slotCount = 4;
+    while (slotCount < 2 * expected)
+        slotCount *= 2;
+    m_slots.fill(0, slotCount);
+}
+
+// Not by the list of distinct texts: of what that leaves out, the key is known here as well. Cells that are
+// their own choices, as they mostly are, stay in the list that they came in.
+void ZrFilterChoices::fillTexts(const QList<ItemRoleMap> &cells)
+{
+    clear(cells.size());
+    int alike = 0;
+    for (; alike < cells.size(); ++alike) {
+        const ItemRoleMap &cell = cells.at(alike);
+        if (!ZrTableFilterParse::isTextChoice(cell) || !note(cell, QVariant()))
+            break;
+    }
+    m_cells = alike == cells.size() ? cells : cells.mid(0, alike);
+    for (int i = alike; i < cells.size(); ++i)
+        take(ZrTableFilterParse::textChoice(cells.at(i)), ItemRoleMap());
+}
+
+// The first of several with one key stays.
+void ZrFilterChoices::take(const ItemRoleMap &cell, const ItemRoleMap &state)
+{
+    if (!note(cell, state.value(ITEM_USERROLE)))
+        return;
+    if (!state.isEmpty())
+        m_ownStates.insert(size(), state);
+    m_cells.append(cell);
+}
+
+bool ZrFilterChoices::note(const ItemRoleMap &cell, const QVariant &tick)
+{
+    const QString key = keyOf(cell);
+    const int slot = slotOf(key);
+    if (m_slots.at(slot) != 0)
+        return false;
+    m_keys.append(key);
+    m_texts.append(textOf(cell, ITEM_DISPLAYROLE));
+    m_ticks.append(tick);
+    m_slots[slot] = m_keys.size();
+    return true;
+}
+
+void ZrFilterChoices::tickAsIn(const Groups &filter)
+{
+    const ZrFilterTicks ticks(filter);
+    for (int row = 0; row < size(); ++row) {
+        if (ticks.holds(m_cells.at(row)))
+            m_ticks[row] = true;
+    }
 }
 
 int ZrFilterChoices::slotOf(const QString &key) const
@@ -120,21 +148,31 @@ int ZrFilterChoices::slotOf(const QString &key) const
     return int(slot);
 }
 
-void ZrFilterChoices::append(const RecordData &choice, const QString &key, int slot)
+RecordData ZrFilterChoices::record(int row) const
 {
-    m_records.append(choice);
-    if (!choice.contains(ZrRowStateColumn))
-        m_records.last().insert(ZrRowStateColumn, ItemRoleMap());
-    m_keys.append(key);
-    m_texts.append(textOf(cellOf(choice), ITEM_DISPLAYROLE));
-    m_slots[slot] = m_records.size();
+    ItemRoleMap state = m_ownStates.value(row);
+    if (m_ticks.at(row).isValid())
+        state.insert(ITEM_USERROLE, m_ticks.at(row));
+    // With a state cell in any case: the list that shows the choice would make it anyway, in a copy of it.
+    return {{ZrRowStateColumn, state}, {TextCell, m_cells.at(row)}};
+}
+
+QVector<int> ZrFilterChoices::rowsContaining(const QString &text) const
+{
+    const QStringMatcher matcher(text, Qt::CaseSensitive);
+    QVector<int> rows;
+    rows.reserve(size());
+    for (int row = 0; row < size(); ++row) {
+        if (text.isEmpty() || matcher.indexIn(m_texts.at(row)) >= 0)
+            rows.append(row);
+    }
+    return rows;
 }
 
 void ZrFilterChoices::tickAll(int state)
 {
-    for (RecordData &choice : m_records)
-        writeTick(choice, state);
-    m_ticked = state != 0 ? m_records.size() : 0;
+    m_ticks.fill(state);
+    m_ticked = state != 0 ? size() : 0;
 }
 
 void ZrFilterChoices::tick(const QString &keyText, int state)
@@ -142,27 +180,15 @@ void ZrFilterChoices::tick(const QString &keyText, int state)
     const int row = m_slots.isEmpty() ? -1 : m_slots.at(slotOf(keyText)) - 1;
     if (row < 0)
         return;
-    m_ticked += int(state != 0) - int(isTicked(m_records.at(row)));
-    writeTick(m_records[row], state);
-}
-
-RecordDataList ZrFilterChoices::containing(const QString &text) const
-{
-    const QStringMatcher matcher(text, Qt::CaseSensitive);
-    RecordDataList found;
-    for (int row = 0; row < m_texts.size(); ++row) {
-        if (matcher.indexIn(m_texts.at(row)) >= 0)
-            found.append(m_records.at(row));
-    }
-    return found;
+    m_ticked += int(state != 0) - int(m_ticks.at(row).toBool());
+    m_ticks[row] = state;
 }
 
 QVector<int> ZrFilterChoices::tickedRows() const
 {
     QVector<int> rows;
-    rows.reserve(m_ticked);
-    for (int row = 0; row < m_records.size(); ++row) {
-        if (isTicked(m_records.at(row)))
+    for (int row = 0; row < size(); ++row) {
+        if (m_ticks.at(row).toBool())
             rows.append(row);
     }
     return rows;
@@ -174,7 +200,7 @@ QList<ItemRoleMap> ZrFilterChoices::tickedCells() const
     cells.reserve(m_ticked);
     const QVector<int> rows = tickedRows();
     for (const int row : rows) {
-        cells.append(cellOf(m_records.at(row)));
+        cells.append(m_cells.at(row));
         cells.last().insert(Infomation::fieldComment, m_texts.at(row));
     }
     return cells;
@@ -204,7 +230,7 @@ ZrFilterChoices::Groups ZrFilterChoices::textConditions() const
     groups.reserve(m_ticked);
     const QVector<int> rows = tickedRows();
     for (const int row : rows) {
-        const ItemRoleMap &cell = cellOf(m_records.at(row));
+        const ItemRoleMap &cell = m_cells.at(row);
         const bool hasRaw = cell.contains(ITEM_USERROLE);
         QVariantMap equal = condition(
             CompareOperator::equal, hasRaw ? textOf(cell, ITEM_USERROLE) : m_texts.at(row), m_texts.at(row));

@@ -7,11 +7,14 @@
 
 /// The choices of a column's filter with their ticks, and the filter that the ticks stand for.
 ///
-/// Shape:   a choice is a record whose cell 0 holds the text shown (role 0) and, for most, a raw value (role
-///          256); its row-state cell holds the tick. A choice is known by keyText(), of which each stands
-///          here once.
+/// Shape:   a choice is a cell that holds the text shown (role 0) and, for most, a raw value (role 256). It
+/// is
+///          known by its key text, of which each stands here once. As a record, the way a grid shows it, it
+///          is made when asked for: of a hundred thousand choices a user sees a few dozen.
 /// Threads: GUI thread only.
-/// Errors:  a ticked choice of a number or date column that is no range adds no condition.
+/// Errors:  a ticked choice of a number or date column that is no range adds no condition. Rows out of range
+/// are
+///          the caller's bug.
 class ZRWIDGET_PRIVATE_EXPORT ZrFilterChoices
 {
 public:
@@ -26,29 +29,33 @@ public:
     void fill(int valueType, const QList<ItemRoleMap> &cells, const Groups &filter,
               const RecordDataList &ownChoices);
 
-    const RecordDataList &records() const { return m_records; }
-    /// The texts shown, in the order of the records.
+    int size() const { return m_cells.size(); }
+    /// The texts shown, by row.
     const QVector<QString> &texts() const { return m_texts; }
+    /// The choice with its tick in the row-state cell.
+    RecordData record(int row) const;
+    /// The rows of the choices whose text contains the other, case counts; of all for an empty text.
+    QVector<int> rowsContaining(const QString &text) const;
     int tickedCount() const { return m_ticked; }
     /// Also when there are no choices at all.
-    bool isAllTicked() const { return m_ticked == m_records.size(); }
+    bool isAllTicked() const { return m_ticked == size(); }
 
     /// The tick is stored as the number that it is told by.
     void tickAll(int state);
     void tick(const QString &keyText, int state);
 
-    /// The choices whose text contains the other, case counts.
-    RecordDataList containing(const QString &text) const;
     /// The cells of the ticked choices with their text as the comment: what a match function reads.
     QList<ItemRoleMap> tickedCells() const;
     /// The filter of all other columns: groups, of which one has to hold.
     Groups conditions() const;
 
 private:
-    static RecordDataList wrapped(const QList<ItemRoleMap> &cells);
-    static void writeTick(RecordData &choice, const QVariant &state);
     void clear(int expected);
-    void append(const RecordData &choice, const QString &key, int slot);
+    void fillTexts(const QList<ItemRoleMap> &cells);
+    void take(const ItemRoleMap &cell, const ItemRoleMap &state);
+    /// Notes the choice of the next row; false when its key is known.
+    bool note(const ItemRoleMap &cell, const QVariant &tick);
+    void tickAsIn(const Groups &filter);
     /// Where the table holds the key, or where it would go.
     int slotOf(const QString &key) const;
     QVector<int> tickedRows() const;
@@ -56,11 +63,13 @@ private:
     Groups rangeConditions() const;
 
     int m_valueType = 0;
-    RecordDataList m_records;
+    // By row. Flat, and shared with the grid's cells: a node of memory for each choice would take longer to
+    // make and to free than all the rest.
+    QList<ItemRoleMap> m_cells;
     QVector<QString> m_texts;
-    // Key texts by row, and an open table of rows + 1 that finds them: a hash would make a hundred thousand
-    // small blocks for as many choices, and free them at the next opening.
     QVector<QString> m_keys;
-    QVector<int> m_slots;
+    QVector<QVariant> m_ticks;          // invalid: never touched
+    QMap<int, ItemRoleMap> m_ownStates; // row-state cells that choices came with
+    QVector<int> m_slots;               // an open table of rows + 1 that finds the keys
     int m_ticked = 0;
 };

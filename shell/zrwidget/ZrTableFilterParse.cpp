@@ -22,17 +22,6 @@ QString textOf(const ItemRoleMap &cell)
     return QString();
 }
 
-// The usual cell, a text shown and perhaps a raw value, is its own choice; nothing is copied then.
-bool isChoice(const ItemRoleMap &cell)
-{
-    const auto shown = cell.constBegin();
-    if (cell.isEmpty() || cell.size() > 2 || shown.key() != ITEM_DISPLAYROLE ||
-        shown->userType() != QMetaType::QString ||
-        static_cast<const QString *>(shown->constData())->isEmpty())
-        return false;
-    return cell.size() == 1 || std::next(shown).key() == ITEM_USERROLE;
-}
-
 QVariant valueOfType(const ItemRoleMap &cell, int valueType)
 {
     for (const QString &role : {ITEM_USERROLE, ITEM_CUSTOMROLE, ITEM_DISPLAYROLE}) {
@@ -96,19 +85,31 @@ QList<ItemRoleMap> ZrTableFilterParse::distinctTexts(const QList<ItemRoleMap> &c
 {
     ZrDistinctCells distinct;
     distinct.reserve(cells.size());
-    for (const ItemRoleMap &cell : cells) {
-        if (isChoice(cell)) {
-            distinct.add(cell);
-            continue;
-        }
-        ItemRoleMap choice;
-        choice.insert(ITEM_DISPLAYROLE, textOf(cell));
-        const auto raw = cell.constFind(ITEM_USERROLE);
-        if (raw != cell.constEnd())
-            choice.insert(ITEM_USERROLE, raw.value());
-        distinct.add(choice);
-    }
+    for (const ItemRoleMap &cell : cells)
+        distinct.add(textChoice(cell));
     return distinct.cells();
+}
+
+bool ZrTableFilterParse::isTextChoice(const ItemRoleMap &cell)
+{
+    const auto shown = cell.constBegin();
+    if (cell.isEmpty() || cell.size() > 2 || shown.key() != ITEM_DISPLAYROLE ||
+        shown->userType() != QMetaType::QString ||
+        static_cast<const QString *>(shown->constData())->isEmpty())
+        return false;
+    return cell.size() == 1 || std::next(shown).key() == ITEM_USERROLE;
+}
+
+ItemRoleMap ZrTableFilterParse::textChoice(const ItemRoleMap &cell)
+{
+    if (isTextChoice(cell))
+        return cell;
+    ItemRoleMap choice;
+    choice.insert(ITEM_DISPLAYROLE, textOf(cell));
+    const auto raw = cell.constFind(ITEM_USERROLE);
+    if (raw != cell.constEnd())
+        choice.insert(ITEM_USERROLE, raw.value());
+    return choice;
 }
 
 void ZrTableFilterParse::getDateFilterRecord(int valueType, const QList<ItemRoleMap> &cells,

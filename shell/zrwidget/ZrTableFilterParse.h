@@ -21,6 +21,12 @@ public:
     /// `valueType` is the QVariant::Type of the column's raw values.
     static QList<ItemRoleMap> getFilterRecordList(int valueType, const QList<ItemRoleMap> &cells);
 
+    /// Whether a cell of a text column is its own choice, as the usual one is: a text shown, and perhaps a
+    /// raw value.
+    static bool isTextChoice(const ItemRoleMap &cell);
+    /// The choice that one cell of a text column stands for.
+    static ItemRoleMap textChoice(const ItemRoleMap &cell);
+
 private:
     static QList<ItemRoleMap> distinctTexts(const QList<ItemRoleMap> &cells);
     static void getDateFilterRecord(int valueType, const QList<ItemRoleMap> &cells, QList<ItemRoleMap> &out);

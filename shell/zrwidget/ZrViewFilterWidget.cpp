@@ -14,9 +14,11 @@
 #include <QtCore/QPointer>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QShortcut>
 #include <QtWidgets/QVBoxLayout>
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -25,6 +27,8 @@ constexpr int HeightPx = 150;
 constexpr int LeastTextPx = 50;
 constexpr int BesideTextPx = 60; // check box, scroll bar, margins
 constexpr int MarginPx = 2;
+constexpr int FirstRows =
+    2000; // that the list begins with; it takes in as many again when it is scrolled down
 constexpr int LeftCentre = 129; // Qt::AlignLeft | Qt::AlignVCenter
 } // namespace
 
@@ -92,6 +96,15 @@ void ZrViewFilterWidget::connectParts()
     connect(m_tableView, &ZrTableView::signalRowCheckStateChanged, this,
             &ZrViewFilterWidget::slotSignalRowCheckStateChanged);
     connect(m_tableView, &ZrTableView::clicked, this, &ZrViewFilterWidget::slotViewClicked);
+    // Queued: while the list is filled anew its bar has no range yet.
+    const QScrollBar *const bar = m_tableView->getTableView()->verticalScrollBar();
+    connect(
+        bar, &QScrollBar::valueChanged, this,
+        [this, bar] {
+            if (bar->value() + bar->pageStep() >= bar->maximum())
+                loadMore();
+        },
+        Qt::QueuedConnection);
     connect(m_searchEdit, &QLineEdit::textEdited, this, &ZrViewFilterWidget::slotSearchTextChanged);
 }
 
@@ -184,7 +197,7 @@ void ZrViewFilterWidget::updateFilterData(int column, int valueType, const QList
     m_choices.fill(valueType, cells, currentFilter, choices);
     m_allText = tr("Select all");
     fitTo(m_choices.texts());
-    showList(m_choices.records(), headRow(m_choices.isAllTicked()));
+    showList(QString(), headRow(m_choices.isAllTicked()));
     m_tableView->getTableView()->scrollToTop();
 }
 
@@ -197,10 +210,36 @@ void ZrViewFilterWidget::fitTo(const QVector<QString> &texts)
     m_tableView->setColumnWidth(TextColumn, width);
 }
 
-void ZrViewFilterWidget::showList(RecordDataList choices, const RecordData &headRow)
+// A list of a hundred thousand rows takes longer to make than to type the next letter.
+void ZrViewFilterWidget::showList(const QString &searched, const RecordData &headRow)
 {
-    choices.prepend(headRow);
-    m_tableView->updateRecordDataList(choices);
+    m_found = m_choices.rowsContaining(searched);
+    m_loaded = qMin(FirstRows, m_found.size());
+    m_tableView->updateRecordDataList(RecordDataList{headRow} + records(0, m_loaded));
+}
+
+RecordDataList ZrViewFilterWidget::records(int from, int to) const
+{
+    RecordDataList list;
+    list.reserve(to - from);
+    for (int i = from; i < to; ++i)
+        list.append(m_choices.record(m_found.at(i)));
+    return list;
+}
+
+// As many as there are: the end of any list is a few steps away.
+void ZrViewFilterWidget::loadMore()
+{
+    const int from = m_loaded;
+    m_loaded = qMin(m_found.size(), from + qMax(FirstRows, from));
+    RecordDataList more = records(from, m_loaded);
+    // The list would take a choice that is called like its head row for news of that row.
+    const auto isLikeHead = [this](const RecordData &choice) {
+        return ZrFilterChoices::keyText(choice) == m_allText;
+    };
+    more.erase(std::remove_if(more.begin(), more.end(), isLikeHead), more.end());
+    if (!more.isEmpty())
+        m_tableView->addRecordDataList(more);
 }
 
 // With an empty state cell, as the choices have it: the list would make it, and take its rows apart for that.
@@ -242,7 +281,7 @@ void ZrViewFilterWidget::slotSignalRowCheckStateChanged(int row, int state)
     if (isHeadRow(row, record)) {
         // All choices, also those that the search hides: required.
         m_choices.tickAll(state);
-        m_tableView->updataRecordDatas(m_choices.records());
+        m_tableView->updataRecordDatas(records(0, m_loaded));
     } else {
         m_choices.tick(ZrFilterChoices::keyText(record), state);
         m_tableView->updataRecordData(headRow(m_choices.isAllTicked()));
@@ -275,8 +314,7 @@ QList<QList<QVariantMap>> ZrViewFilterWidget::getFilterConditionList() const
 // The head row comes without a tick: typing says nothing about all choices. The next tick counts them again.
 void ZrViewFilterWidget::slotSearchTextChanged()
 {
-    const QString text = m_searchEdit->text();
-    showList(text.isEmpty() ? m_choices.records() : m_choices.containing(text), headRow());
+    showList(m_searchEdit->text(), headRow());
 }
 
 // --- Keys ---

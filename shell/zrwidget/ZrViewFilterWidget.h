@@ -22,7 +22,8 @@ class ZrTableView;
 ///     +--------------------+
 ///
 /// Shape:     filled anew for each opening; the ticks come from the filter in force and each change of them
-///            is told at once. The search hides choices, it doesn't untick them. A press outside hides the
+///            is told at once. The search hides choices, it doesn't untick them. The list begins with some
+///            thousand choices and takes in more as it is scrolled to its end. A press outside hides the
 ///            dialog that the panel stands in, and so does escape.
 /// Units:     columns are logical numbers; sizes in logical px.
 /// Ownership: normal QWidget parent rules. What signalFilterStatusChanged reaches may end the grid: who owns
@@ -78,7 +79,9 @@ private:
     void connectKeys();
     void leavePlugin();
     void fitTo(const QVector<QString> &texts);
-    void showList(RecordDataList choices, const RecordData &headRow);
+    void showList(const QString &searched, const RecordData &headRow);
+    RecordDataList records(int from, int to) const;
+    void loadMore();
     RecordData headRow() const;
     RecordData headRow(bool isTicked) const;
     bool isHeadRow(int row, const RecordData &record) const;
@@ -94,7 +97,9 @@ private:
     QLineEdit *m_searchEdit = nullptr;
     ZrTableView *m_tableView = nullptr;
     ZrFilterChoices m_choices;
-    QString m_allText; // of the head row, as it stands in the list
-    int m_mostWidth;   // px
-    int m_telling = 0; // depth of signalFilterStatusChanged
+    QVector<int> m_found; // rows of the choices that the search leaves
+    int m_loaded = 0;     // of m_found, those that the list holds already
+    QString m_allText;    // of the head row, as it stands in the list
+    int m_mostWidth;      // px
+    int m_telling = 0;    // depth of signalFilterStatusChanged
 };

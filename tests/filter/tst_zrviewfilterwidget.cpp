@@ -12,6 +12,7 @@
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QScrollBar>
 
 #include <limits>
 
@@ -53,6 +54,14 @@ public:
     {
         panel->updateFilterData(7, QVariant::String, cells(texts), filter, {});
         dialog->setFixedSize(panel->size());
+    }
+
+    static QStringList numbered(int count)
+    {
+        QStringList texts;
+        for (int i = 0; i < count; ++i)
+            texts.append(QStringLiteral("t%1").arg(i, 4, 10, QLatin1Char('0')));
+        return texts;
     }
 
     void open()
@@ -123,6 +132,8 @@ private slots:
     void headRowTicksHiddenChoicesToo();
     void typingUnticksTheHeadRow();
     void choiceNamedLikeTheHeadRowIsNotShownTwice();
+    void longListTakesInMoreAsItIsScrolled();
+    void headRowTicksWhatIsNotInTheListYet();
     void markupIsShownAsText();
     void pressOutsideHidesTheDialogAndActs();
     void pressInsideLeavesTheDialog();
@@ -351,6 +362,44 @@ void tst_ZrViewFilterWidget::choiceNamedLikeTheHeadRowIsNotShownTwice()
 {
     PanelScene s({"Select all", "b"});
     QCOMPARE(s.listed(), QStringList({"Select all", "b"}));
+}
+
+void tst_ZrViewFilterWidget::longListTakesInMoreAsItIsScrolled()
+{
+    constexpr int Count = 9000;
+    PanelScene s(PanelScene::numbered(Count));
+    s.open();
+    QScrollBar *const bar = s.list->getTableView()->verticalScrollBar();
+    const int first = s.list->getRowCount();
+    QVERIFY(first > 1000);
+    QVERIFY(first < Count);
+    for (int step = 0; step < 5 && s.list->getRowCount() <= Count; ++step) {
+        bar->setValue(bar->maximum());
+        QCoreApplication::processEvents();
+    }
+    QCOMPARE(s.list->getRowCount(), Count + 1);
+    QCOMPARE(s.listed().last(), QString("t8999"));
+    // What stands at the end is found without it.
+    QTest::keyClicks(s.search, "8999");
+    QCOMPARE(s.listed(), QStringList({"Select all", "t8999"}));
+}
+
+void tst_ZrViewFilterWidget::headRowTicksWhatIsNotInTheListYet()
+{
+    constexpr int Count = 5000;
+    PanelScene s(PanelScene::numbered(Count));
+    s.open();
+    s.click(0, 0);
+    QCOMPARE(s.panel->getFilterConditionList().size(), Count);
+    QScrollBar *const bar = s.list->getTableView()->verticalScrollBar();
+    bar->setValue(bar->maximum());
+    QCoreApplication::processEvents();
+    bar->setValue(bar->maximum());
+    QCoreApplication::processEvents();
+    QCOMPARE(s.listed().last(), QString("*t4999"));
+    s.click(Count, 1);
+    QCOMPARE(s.listed().first(), QString("Select all"));
+    QCOMPARE(s.panel->getFilterConditionList().size(), Count - 1);
 }
 
 void tst_ZrViewFilterWidget::markupIsShownAsText()
