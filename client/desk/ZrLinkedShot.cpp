@@ -14,6 +14,8 @@
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QMainWindow>
 
+#include <memory>
+
 namespace {
 constexpr int MostWaitMs = 3000;
 constexpr int ButtonMiddlePx = 8; // a filter button, from the right end of its section
@@ -55,13 +57,13 @@ void clickRow(const ZrTableView *grid)
 // too.
 void linkRows(const ZrTableView *first, const ZrTableView *second)
 {
-    bool followed = false;
+    const auto followed = std::make_shared<bool>(false);
     const auto link =
-        QObject::connect(second, &ZrTableView::currentIndexChanged, second, [&] { followed = true; });
+        QObject::connect(second, &ZrTableView::currentIndexChanged, second, [followed] { *followed = true; });
     QElapsedTimer waited;
     waited.start();
     clickRow(first);
-    while (!followed && waited.elapsed() < MostWaitMs)
+    while (!*followed && waited.elapsed() < MostWaitMs)
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, MostWaitMs);
     QObject::disconnect(link);
 }

@@ -159,7 +159,8 @@ bool ZrItemStyle::rulesItems(const QString &sheet, const QWidget *widget)
     const QString bare = withoutContents(sheet);
     if (bare.contains(QLatin1String("/*")) || bare.contains(QLatin1Char('@')))
         return true;
-    for (const QString &rule : bare.split(QLatin1Char('}'))) {
+    const QStringList rules = bare.split(QLatin1Char('}'));
+    for (const QString &rule : rules) {
         const QString selectors = rule.section(QLatin1Char('{'), 0, 0);
         if (rule.count(QLatin1Char('{')) > 1)
             return true;
