@@ -10,9 +10,12 @@ void ZrLanguage::install(QCoreApplication *app, const QString &language)
     if (!language.isEmpty())
         QLocale::setDefault(QLocale(language));
     const QLocale locale;
+    // Some texts stand in the sources in Chinese, others in English: who reads neither gets English
+    // throughout.
     const auto load = [app, &locale](const QString &name, const QString &folder) {
         auto *const translator = new QTranslator(app);
-        if (translator->load(locale, name, QStringLiteral("_"), folder))
+        if (translator->load(locale, name, QStringLiteral("_"), folder) ||
+            translator->load(name + QStringLiteral("_en"), folder))
             QCoreApplication::installTranslator(translator);
         else
             delete translator;

@@ -8,7 +8,7 @@ class QCoreApplication;
 class ZrLanguage
 {
 public:
-    /// `language` is "zh_CN", "en", or empty for that of the locale. Also sets the default locale, by which
-    /// numbers are written.
+    /// `language` is "zh_CN", "en", or empty for that of the locale; one that there is not gets English. Also
+    /// sets the default locale, by which numbers are written.
     static void install(QCoreApplication *app, const QString &language);
 };

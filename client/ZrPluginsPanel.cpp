@@ -60,6 +60,14 @@ ZrPluginsPanel::ZrPluginsPanel(ZrPluginCatalogue *catalogue, QWidget *parent)
     showCurrent();
 }
 
+// Room for all columns and some files; the grid itself asks for none.
+QSize ZrPluginsPanel::sizeHint() const
+{
+    constexpr int leastWidthPx = 760;
+    constexpr int leastHeightPx = 240;
+    return QWidget::sizeHint().expandedTo(QSize(leastWidthPx, leastHeightPx));
+}
+
 void ZrPluginsPanel::createLayout()
 {
     m_notice->setObjectName(QStringLiteral("pluginNotice"));

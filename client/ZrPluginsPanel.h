@@ -30,6 +30,7 @@ public:
     explicit ZrPluginsPanel(ZrPluginCatalogue *catalogue, QWidget *parent = nullptr);
 
     ZrTableView *view() const { return m_view; }
+    QSize sizeHint() const override;
     /// Makes the plugin's row the current one.
     void select(const QString &pluginId);
 

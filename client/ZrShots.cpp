@@ -49,6 +49,8 @@ QString ZrShots::write(QMainWindow *window, const QString &folder)
     const QList<QDockWidget *> docks =
         window->findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly);
     for (QDockWidget *const dock : docks) {
+        if (!dock->isVisible())
+            dock->adjustSize(); // one that was never shown has no size yet
         if (error.isEmpty())
             error = save(dock->grab(), dir.filePath(QStringLiteral("dock-%1.png").arg(dock->objectName())));
     }

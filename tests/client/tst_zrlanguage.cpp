@@ -38,16 +38,18 @@ void tst_ZrLanguage::theTextsComeInTheLanguage_data()
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("client");
     QTest::addColumn<QString>("library");
+    QTest::addColumn<QString>("button"); // Chinese in the sources
     const QString english = QStringLiteral("a document type isn't allowed");
     QTest::newRow("Chinese") << "zh_CN"
                              << "皮肤"
-                             << "不允许文档类型声明";
+                             << "不允许文档类型声明"
+                             << "确认";
     QTest::newRow("English") << "en"
-                             << "Skin" << english;
+                             << "Skin" << english << "OK";
     QTest::newRow("one that there is not") << "fr"
-                                           << "Skin" << english;
+                                           << "Skin" << english << "OK";
     QTest::newRow("no language") << "no such thing"
-                                 << "Skin" << english;
+                                 << "Skin" << english << "OK";
 }
 
 void tst_ZrLanguage::theTextsComeInTheLanguage()
@@ -55,9 +57,11 @@ void tst_ZrLanguage::theTextsComeInTheLanguage()
     QFETCH(QString, language);
     QFETCH(QString, client);
     QFETCH(QString, library);
+    QFETCH(QString, button);
     ZrLanguage::install(qApp, language);
     QCOMPARE(skinWord(), client);
     QCOMPARE(libraryText(), library);
+    QCOMPARE(QCoreApplication::translate("ZrDialog", "确认"), button);
 }
 
 void tst_ZrLanguage::withoutALanguageTheLocalesIsTaken()
