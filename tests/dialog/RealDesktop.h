@@ -1,5 +1,8 @@
 #pragma once
 
+#include "ZrTestMain.h"
+
+#include <QtCore/QLoggingCategory>
 #include <QtCore/QPoint>
 #include <QtCore/QStringList>
 #include <QtCore/QTemporaryDir>
@@ -43,3 +46,20 @@ private:
     pid_t m_server = -1;
     pid_t m_manager = -1;
 };
+
+/// main() of a test whose windows stand on a display of their own. The toolkit asks there for windows that
+/// are gone already, and tells the server's answer: that is no warning of ours.
+#define ZR_REAL_DESKTOP_MAIN(TestClass)                                                                      \
+    int main(int argc, char *argv[])                                                                         \
+    {                                                                                                        \
+        const ZrTestProcess process;                                                                         \
+        const RealDesktop desktop;                                                                           \
+        if (!desktop.problem().isEmpty()) {                                                                  \
+            fprintf(stderr, "FAIL!  : %s\n", qPrintable(desktop.problem()));                                 \
+            return 1;                                                                                        \
+        }                                                                                                    \
+        QLoggingCategory::setFilterRules("qt.qpa.xcb.warning=false");                                        \
+        QApplication app(argc, argv);                                                                        \
+        TestClass test;                                                                                      \
+        return QTest::qExec(&test, argc, argv);                                                              \
+    }

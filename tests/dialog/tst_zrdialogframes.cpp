@@ -3,9 +3,7 @@
 #include "RealDesktop.h"
 #include "ZrDialog.h"
 #include "ZrMessageBox.h"
-#include "ZrTestMain.h"
 
-#include <QtCore/QLoggingCategory>
 #include <QtCore/QTimer>
 #include <QtGui/QScreen>
 #include <QtWidgets/QLineEdit>
@@ -311,18 +309,5 @@ void tst_ZrDialogFrames::theWindowBelowStaysInReach()
     QVERIFY(m_dialog->isVisible());
 }
 
-int main(int argc, char *argv[])
-{
-    const ZrTestProcess process;
-    const RealDesktop desktop;
-    if (!desktop.problem().isEmpty()) {
-        fprintf(stderr, "FAIL!  : %s\n", qPrintable(desktop.problem()));
-        return 1;
-    }
-    // The toolkit asks for windows that are gone already, and tells the server's answer.
-    QLoggingCategory::setFilterRules("qt.qpa.xcb.warning=false");
-    QApplication app(argc, argv);
-    tst_ZrDialogFrames test;
-    return QTest::qExec(&test, argc, argv);
-}
+ZR_REAL_DESKTOP_MAIN(tst_ZrDialogFrames)
 #include "tst_zrdialogframes.moc"

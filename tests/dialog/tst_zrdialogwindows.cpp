@@ -2,10 +2,8 @@
 #include "RealDesktop.h"
 #include "ZrComfirmDialog.h"
 #include "ZrMessageBox.h"
-#include "ZrTestMain.h"
 #include "ZrToastDialog.h"
 
-#include <QtCore/QLoggingCategory>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
@@ -324,18 +322,5 @@ void tst_ZrDialogWindows::theHelpMarkAnswersToTheMouse()
     QVERIFY(box.isVisible());
 }
 
-int main(int argc, char *argv[])
-{
-    const ZrTestProcess process;
-    const RealDesktop desktop;
-    if (!desktop.problem().isEmpty()) {
-        fprintf(stderr, "FAIL!  : %s\n", qPrintable(desktop.problem()));
-        return 1;
-    }
-    // The toolkit asks for windows that are gone already, and tells the server's answer.
-    QLoggingCategory::setFilterRules("qt.qpa.xcb.warning=false");
-    QApplication app(argc, argv);
-    tst_ZrDialogWindows test;
-    return QTest::qExec(&test, argc, argv);
-}
+ZR_REAL_DESKTOP_MAIN(tst_ZrDialogWindows)
 #include "tst_zrdialogwindows.moc"

@@ -1,9 +1,7 @@
 #include "FilterScene.h"
 #include "FreezeTableView.h"
 #include "RealDesktop.h"
-#include "ZrTestMain.h"
 
-#include <QtCore/QLoggingCategory>
 #include <QtGui/QScreen>
 #include <QtGui/QStyleHints>
 #include <QtWidgets/QLineEdit>
@@ -16,6 +14,8 @@ class tst_ZrFilterWindows : public QObject
 {
     Q_OBJECT
 private slots:
+    // Each click is one of its own, however fast they follow each other.
+    void initTestCase() { QGuiApplication::styleHints()->setMouseDoubleClickInterval(0); }
     void init();
     void cleanup() { m_scene.reset(); }
     void clickOpensThePopupAtTheButton();
@@ -151,20 +151,5 @@ void tst_ZrFilterWindows::itOpensOverAModalDialog()
     QCOMPARE(m_scene->shown().size(), 3);
 }
 
-int main(int argc, char *argv[])
-{
-    const ZrTestProcess process;
-    const RealDesktop desktop;
-    if (!desktop.problem().isEmpty()) {
-        fprintf(stderr, "FAIL!  : %s\n", qPrintable(desktop.problem()));
-        return 1;
-    }
-    // The toolkit asks for windows that are gone already, and tells the server's answer.
-    QLoggingCategory::setFilterRules("qt.qpa.xcb.warning=false");
-    QApplication app(argc, argv);
-    // Each click is one of its own, however fast they follow each other.
-    QGuiApplication::styleHints()->setMouseDoubleClickInterval(0);
-    tst_ZrFilterWindows test;
-    return QTest::qExec(&test, argc, argv);
-}
+ZR_REAL_DESKTOP_MAIN(tst_ZrFilterWindows)
 #include "tst_zrfilterwindows.moc"
