@@ -79,3 +79,4 @@ ZrBenchCases busBenches();
 ZrBenchCases editorBenches();
 ZrBenchCases comboBenches();
 ZrBenchCases textBenches();
+ZrBenchCases searchBenches();
