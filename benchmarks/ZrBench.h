@@ -79,4 +79,5 @@ ZrBenchCases busBenches();
 ZrBenchCases editorBenches();
 ZrBenchCases comboBenches();
 ZrBenchCases textBenches();
+ZrBenchCases filterBenches();
 ZrBenchCases searchBenches();
