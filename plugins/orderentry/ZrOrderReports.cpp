@@ -92,5 +92,9 @@ void ZrOrderReports::take(const QVariantMap &order)
         const QVariant value = order.value(field);
         record.insert(column, {{ITEM_DISPLAYROLE, textOf(field, value)}, {ITEM_USERROLE, value}});
     }
-    m_view->updataRecordData(record);
+    const QString key = order.value(Field::clientOrderId).toString();
+    if (m_view->getRowByKey(key) < 0)
+        m_view->addRecordData(record);
+    else
+        m_view->updataRecordData(record);
 }

@@ -18,6 +18,7 @@
 #include "zrdefine/PluginPropety.h"
 #include "zrdefine/VexlorFields.h"
 
+#include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QWindow>
 
@@ -152,6 +153,7 @@ void tst_ZrOrderEntryPlugin::anOrderWithoutAnAnswerIsSaid()
     m_venue.reset();
     auto *const plugin = make<ZrOrderEntryPlugin>("orderentry");
     presenter(plugin)->setRequestTimeOut(0); // at the next tick of its clock
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^Async request timeout"));
     fillIn(plugin);
     emit plugin->panel()->signalSend(plugin->panel()->ticket());
     QCOMPARE(plugin->panel()->said(), QString("Sending..."));
