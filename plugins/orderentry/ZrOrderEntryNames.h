@@ -43,6 +43,8 @@ inline const QString sell = QStringLiteral("2");
 inline const QString limit = QStringLiteral("2"); // of OrderType
 } // namespace ZrOrderEntryCode
 
-/// Linkage by security, one of the client's linkage types. The event's record names the symbol; a neighbour
-/// that shows a book may add the price and the quantity of a level.
-constexpr int ZrOrderEntryLinkage = 1;
+/// The client's linkage types that order entry takes part in; each is the type of its events too.
+enum ZrOrderEntryLinkage {
+    ZrOrderEntrySecurityLinkage = 1, // a record with the symbol
+    ZrOrderEntryOrderLinkage = 3     // a record with the symbol and of price, quantity and side what is known
+};

@@ -156,6 +156,14 @@ void ZrOrderEntryPanel::setLevel(double price, double quantity)
         m_quantity->setText(numberText(quantity));
 }
 
+void ZrOrderEntryPanel::setSide(const QString &side)
+{
+    if (side == ZrOrderEntryCode::buy)
+        m_buy->setChecked(true);
+    else if (side == ZrOrderEntryCode::sell)
+        m_sell->setChecked(true);
+}
+
 void ZrOrderEntryPanel::setAccount(const QString &account)
 {
     const int row = m_account->findText(account);

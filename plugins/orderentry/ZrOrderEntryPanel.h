@@ -33,6 +33,8 @@ public:
     void setSecurity(const QString &symbol);
     /// As chosen in a book; values of 0 and less leave their field alone.
     void setLevel(double price, double quantity);
+    /// A code of the dictionary; one that is neither buy nor sell changes nothing.
+    void setSide(const QString &side);
     void setAccount(const QString &account);
 
     /// The line under the form.

@@ -37,7 +37,8 @@ void ZrOrderEntryPlugin::initPlugin()
     m_presenter = new ZrOrderEntryPresenter(pluginInstanceID(), this);
     connectParts();
     m_presenter->open();
-    subPluginLinkage(ZrOrderEntryLinkage, true, LinkageGroupOrange);
+    subPluginLinkage(ZrOrderEntrySecurityLinkage, true, LinkageGroupOrange);
+    subPluginLinkage(ZrOrderEntryOrderLinkage, true, LinkageGroupOrange);
 }
 
 void ZrOrderEntryPlugin::connectParts()
@@ -50,7 +51,9 @@ void ZrOrderEntryPlugin::connectParts()
             Qt::QueuedConnection);
     connect(presenter, &ZrOrderEntryPresenter::signalReport, m_panel->reports(), &ZrOrderReports::take,
             Qt::QueuedConnection);
-    connect(presenter, &ZrOrderEntryPresenter::signalSecurityChosen, this, &ZrOrderEntryPlugin::take,
+    connect(presenter, &ZrOrderEntryPresenter::signalSecurityChosen, this, &ZrOrderEntryPlugin::takeSecurity,
+            Qt::QueuedConnection);
+    connect(presenter, &ZrOrderEntryPresenter::signalLevelChosen, this, &ZrOrderEntryPlugin::takeLevel,
             Qt::QueuedConnection);
     connect(m_panel, &ZrOrderEntryPanel::signalSend, this, &ZrOrderEntryPlugin::send);
     connect(m_panel, &ZrOrderEntryPanel::signalSecurityChosen, this, &ZrOrderEntryPlugin::tellSecurity);
@@ -89,11 +92,17 @@ void ZrOrderEntryPlugin::refused(int code, const QString &text)
         m_panel->say(text.isEmpty() ? tr("The order was not sent.") : text, true);
 }
 
-void ZrOrderEntryPlugin::take(const QVariantMap &level)
+void ZrOrderEntryPlugin::takeSecurity(const QVariantMap &security)
 {
-    m_panel->setSecurity(level.value(Vexlor_Fields::Security::symbol).toString());
+    m_panel->setSecurity(security.value(Vexlor_Fields::Security::symbol).toString());
+}
+
+void ZrOrderEntryPlugin::takeLevel(const QVariantMap &level)
+{
+    takeSecurity(level);
     m_panel->setLevel(level.value(ZrOrderEntryField::price).toDouble(),
                       level.value(ZrOrderEntryField::orderQty).toDouble());
+    m_panel->setSide(level.value(ZrOrderEntryField::side).toString());
 }
 
 void ZrOrderEntryPlugin::tellSecurity(const QString &symbol)

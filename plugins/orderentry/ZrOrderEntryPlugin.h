@@ -10,8 +10,8 @@ class ZrOrderTicket;
 
 /// Order entry as a plugin: the form of an order, sent over the bus, and the reports on what was sent.
 ///
-/// Shape:     made by the client, then initPlugin() once. Linked by security: a neighbour's choice fills the
-///            form, with price and quantity where it tells a level of a book.
+/// Shape:     made by the client, then initPlugin() once. Linked by security and by order: a neighbour's
+///            security, or a level of its book, fills the form.
 /// Ownership: normal QWidget parent rules; its presenter goes with it.
 /// Threads:   GUI thread only.
 /// Errors:    an order that can't leave or is refused is said under the form.
@@ -34,7 +34,8 @@ private:
     void send(const ZrOrderTicket &ticket);
     void accepted(const QVariantMap &order);
     void refused(int code, const QString &text);
-    void take(const QVariantMap &level);
+    void takeSecurity(const QVariantMap &security);
+    void takeLevel(const QVariantMap &level);
     void tellSecurity(const QString &symbol);
 
     ZrOrderEntryPanel *m_panel = nullptr; // our child

@@ -58,7 +58,7 @@ void ZrOrderEntryPresenter::tellSecurity(const QString &symbol)
 {
     auto *const event = new CEventMessageCommon; // the bus's from PutEvent on
     event->SetSrcid(pluginPid());
-    event->SetType(ZrOrderEntryLinkage);
+    event->SetType(ZrOrderEntrySecurityLinkage);
     event->SetMsg(QVariantMap{{Vexlor_Fields::Security::symbol, symbol}});
     PutEvent(pluginPid(), event);
 }
@@ -79,10 +79,14 @@ void ZrOrderEntryPresenter::ProcMsg(QString pid, QVariant msgType, QVariant msg)
 void ZrOrderEntryPresenter::ProcEventMsg(QString pid, QVariant msgType, QVariant msg)
 {
     Q_UNUSED(pid)
-    const QVariantMap level = msg.toMap();
-    if (msgType.toInt() == ZrOrderEntryLinkage &&
-        !level.value(Vexlor_Fields::Security::symbol).toString().isEmpty())
-        emit signalSecurityChosen(level);
+    const int linkage = msgType.toInt();
+    const QVariantMap record = msg.toMap();
+    if (record.value(Vexlor_Fields::Security::symbol).toString().isEmpty())
+        return;
+    if (linkage == ZrOrderEntrySecurityLinkage)
+        emit signalSecurityChosen(record);
+    else if (linkage == ZrOrderEntryOrderLinkage)
+        emit signalLevelChosen(record);
 }
 
 void ZrOrderEntryPresenter::ProcAsyncCallBack(int code, QString pid, QVariant msgType, QVariant msg)

@@ -33,7 +33,9 @@ signals:
     /// `code` is a ZrRequestResult; `text` is the back end's, or empty.
     void signalRefused(int code, const QString &text);
     void signalReport(const QVariantMap &report);
-    void signalSecurityChosen(const QVariantMap &level);
+    /// In a linked plugin.
+    void signalSecurityChosen(const QVariantMap &security);
+    void signalLevelChosen(const QVariantMap &level);
 
 private:
     int m_orders = 0; // sent so far

@@ -9,8 +9,8 @@ class QLineEdit;
 class QTimer;
 class QTreeWidget;
 
-/// The bare slots of an earlier code search, a field with a tree as its list. Plugins that still look the
-/// class up by its meta object find it; ZrSearchBox is what new code uses.
+/// The bare slots of an earlier code search, a field with a tree as its list. Nothing here makes one any
+/// more: it's kept for its meta object, and ZrSearchBox is what new code uses.
 ///
 /// Ownership: field and popup are borrowed and may end first; the timer is our child.
 /// Threads:   GUI thread only.

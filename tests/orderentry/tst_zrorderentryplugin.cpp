@@ -180,13 +180,22 @@ void tst_ZrOrderEntryPlugin::aPickIsToldToTheBlotter()
 void tst_ZrOrderEntryPlugin::aLevelOfABookFillsPriceAndQuantity()
 {
     const auto *const plugin = make<ZrOrderEntryPlugin>("orderentry");
-    presenter(plugin)->ProcEventMsg(QString(), ZrOrderEntryLinkage,
+    presenter(plugin)->ProcEventMsg(QString(), ZrOrderEntryOrderLinkage,
                                     QVariantMap{{Vexlor_Fields::Security::symbol, "600003.SH"},
                                                 {ZrOrderEntryField::price, 27.18},
+                                                {ZrOrderEntryField::side, ZrOrderEntryCode::sell},
                                                 {ZrOrderEntryField::orderQty, 1300.0}});
     QTRY_COMPARE(plugin->panel()->ticket().symbol, QString("600003.SH"));
     QCOMPARE(plugin->panel()->ticket().price, QString("27.18"));
     QCOMPARE(plugin->panel()->ticket().quantity, QString("1300"));
+    QCOMPARE(plugin->panel()->ticket().side, ZrOrderEntryCode::sell);
+    // The latest price stands on no side and has no quantity.
+    presenter(plugin)->ProcEventMsg(
+        QString(), ZrOrderEntryOrderLinkage,
+        QVariantMap{{Vexlor_Fields::Security::symbol, "600003.SH"}, {ZrOrderEntryField::price, "27.11"}});
+    QTRY_COMPARE(plugin->panel()->ticket().price, QString("27.11"));
+    QCOMPARE(plugin->panel()->ticket().quantity, QString("1300"));
+    QCOMPARE(plugin->panel()->ticket().side, ZrOrderEntryCode::sell);
 }
 
 void tst_ZrOrderEntryPlugin::theAccountOfTheTitleIsTaken()
