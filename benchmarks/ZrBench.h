@@ -80,3 +80,4 @@ ZrBenchCases editorBenches();
 ZrBenchCases comboBenches();
 ZrBenchCases textBenches();
 ZrBenchCases filterBenches();
+ZrBenchCases searchBenches();

@@ -6,6 +6,7 @@
 #include "desk/ZrFeedMonitor.h"
 #include "desk/ZrFeedProgress.h"
 #include "desk/ZrLinkedShot.h"
+#include "desk/ZrOrderVenue.h"
 #include "desk/ZrPluginDesk.h"
 #include "desk/ZrPluginDock.h"
 #include "feed/ZrFeedPlayer.h"
@@ -74,6 +75,7 @@ ZrWorkstation::~ZrWorkstation()
     }
     m_app->watchFrames(nullptr);
     m_window.reset();
+    m_venue.reset();
     m_host->stop();
 }
 
@@ -109,7 +111,10 @@ QString ZrWorkstation::startHost()
     host.skinId = m_options.skin;
     host.faults = m_options.faults;
     host.database.language = languageOf(m_options);
-    return m_host->start(host) ? QString() : m_host->errorText();
+    if (!m_host->start(host))
+        return m_host->errorText();
+    m_venue = std::make_unique<ZrOrderVenue>(m_host.get(), ZrFeedFactory::accounts());
+    return QString();
 }
 
 QString ZrWorkstation::loadPlugins()

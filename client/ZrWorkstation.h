@@ -16,6 +16,7 @@ class ZrFeedMonitor;
 class ZrFeedPlayer;
 class ZrFeedProgress;
 class ZrMainWindow;
+class ZrOrderVenue;
 class ZrPluginCatalogue;
 class ZrPluginDock;
 class ZrRecordingTee;
@@ -83,6 +84,7 @@ private:
     const ZrWorkstationPaths m_paths;
     ZrClientApplication *const m_app; // not owned
     std::unique_ptr<ZrReferenceHost> m_host;
+    std::unique_ptr<ZrOrderVenue> m_venue; // the host's service
     std::unique_ptr<ZrPluginCatalogue> m_plugins;
     std::unique_ptr<ZrMainWindow> m_window;
     std::unique_ptr<ZrSteadyClock> m_clock;

@@ -795,6 +795,26 @@
         <source>Order</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Half typed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finds in the middle too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A code of two markets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finds a security by a few letters or digits of its code or search key.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ZrStatusLine</name>

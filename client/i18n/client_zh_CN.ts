@@ -795,6 +795,26 @@
         <source>Order</source>
         <translation>委托</translation>
     </message>
+    <message>
+        <source>Half typed</source>
+        <translation>输入一半</translation>
+    </message>
+    <message>
+        <source>Picked</source>
+        <translation>已选中</translation>
+    </message>
+    <message>
+        <source>Finds in the middle too</source>
+        <translation>也匹配中间</translation>
+    </message>
+    <message>
+        <source>A code of two markets</source>
+        <translation>两个市场的同一代码</translation>
+    </message>
+    <message>
+        <source>Finds a security by a few letters or digits of its code or search key.</source>
+        <translation>输入代码或检索简拼的几个字母或数字即可找到证券。</translation>
+    </message>
 </context>
 <context>
     <name>ZrStatusLine</name>

@@ -38,5 +38,8 @@ QList<ZrShowcaseEntry> ZrShowcasePages::all()
         // --- combos ---
         entry("multi-combo", "ZrMultiComboBox", "combos", zrMakeMultiComboPage),
         entry("linkage-combo", "ZrLinkageCombox", "combos", zrMakeLinkageComboPage),
+
+        // --- search ---
+        entry("search-box", "ZrSearchBox", "search", zrMakeSearchBoxPage),
     };
 }

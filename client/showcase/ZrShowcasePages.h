@@ -53,3 +53,6 @@ ZrShowcasePage *zrMakeShortCutKeyWidgetPage(QWidget *parent);
 // --- combos ---
 ZrShowcasePage *zrMakeMultiComboPage(QWidget *parent);
 ZrShowcasePage *zrMakeLinkageComboPage(QWidget *parent);
+
+// --- search ---
+ZrShowcasePage *zrMakeSearchBoxPage(QWidget *parent);
