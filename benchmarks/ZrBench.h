@@ -78,4 +78,5 @@ ZrBenchCases mapBenches();
 ZrBenchCases busBenches();
 ZrBenchCases editorBenches();
 ZrBenchCases comboBenches();
+ZrBenchCases ladderBenches();
 ZrBenchCases textBenches();
