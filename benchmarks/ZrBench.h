@@ -80,3 +80,4 @@ ZrBenchCases editorBenches();
 ZrBenchCases comboBenches();
 ZrBenchCases ladderBenches();
 ZrBenchCases textBenches();
+ZrBenchCases filterBenches();

@@ -64,3 +64,23 @@ inline const QString order = QStringLiteral("Order");
 inline const QString trade = QStringLiteral("Trade");
 inline const QString depth = QStringLiteral("Depth");
 } // namespace ZrClientMsgType
+
+/// Keys of what a plugin with a live grid tells the workstation: after each batch that went into its grid,
+/// and when it is asked for its data. A plugin that tells nothing of this is not measured.
+namespace ZrPluginReport {
+/// The highest number (seqNo) of the batch's messages.
+inline const QString number = QStringLiteral("Number");
+/// When the batch was in the grid, and when each of its messages was sent: QVector<qint64> of nanoseconds.
+inline const QString appliedNs = QStringLiteral("AppliedNs");
+inline const QString sentNs = QStringLiteral("SentNs");
+/// Those of `sentNs` whose rows the next frame shows.
+inline const QString inSightNs = QStringLiteral("InSightNs");
+/// Rows of the grid, filtered out or not; whether messages wait for it.
+inline const QString rows = QStringLiteral("Rows");
+inline const QString isWaiting = QStringLiteral("IsWaiting");
+} // namespace ZrPluginReport
+
+/// Properties that the workstation gives the plugins it opens.
+namespace ZrPluginSetting {
+inline const QString maxRows = QStringLiteral("MaxRows");
+} // namespace ZrPluginSetting

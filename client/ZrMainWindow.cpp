@@ -1,57 +1,49 @@
 #include "ZrMainWindow.h"
 
+#include "desk/ZrDeskToolBar.h"
+#include "desk/ZrPluginDesk.h"
+#include "desk/ZrPluginDock.h"
 #include "showcase/ZrShowcaseDocks.h"
-#include "ZrBlotterPanel.h"
-#include "ZrBlotterToolBar.h"
+#include "ZrPluginsDock.h"
 #include "ZrStatusLine.h"
-#include "ZrTableView.h"
 
 #include "zrcore/ZrCore.h"
 #include "zrdefine/Constants.h"
 
-#include <QtWidgets/QDockWidget>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QToolButton>
 
-ZrMainWindow::ZrMainWindow(const QStringList &skins, const QString &skin, int maxRows)
-    : m_blotter(new ZrBlotterPanel(QStringLiteral(":/client/columns/blotter.xml"), this))
-    , m_toolBar(new ZrBlotterToolBar(m_blotter, skins, skin, maxRows, this))
+ZrMainWindow::ZrMainWindow(const QStringList &skins, const QString &skin)
+    : m_toolBar(new ZrDeskToolBar(skins, skin, this))
+    , m_desk(new ZrPluginDesk(this, QStringLiteral("desk")))
     , m_status(new ZrStatusLine(this))
+    , m_showcase(new ZrShowcaseDocks(this, nullptr))
 {
     setObjectName(QStringLiteral("workstation"));
     setWindowTitle(tr("Trading workstation"));
     addToolBar(m_toolBar);
-    addDocks();
-    addShowcaseButton();
+    m_toolBar->addMenu(QStringLiteral("showcaseButton"), tr("Showcase"),
+                       tr("A page for each widget, with all its states"), m_showcase->makeMenu(m_toolBar));
     setStatusBar(m_status);
+    setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
     resize(1600, 900);
-    connect(m_toolBar, &ZrBlotterToolBar::signalSkinChosen, this, &ZrMainWindow::signalSkinChosen);
+    connectParts();
     ZrCore::instance()->addStyle2View(this,
                                       Constants::SKIN_SYSTEM + QStringLiteral("client/workstation.css"));
 }
 
-void ZrMainWindow::addDocks()
+void ZrMainWindow::connectParts()
 {
-    auto *const dock = new QDockWidget(tr("Order blotter"), this);
-    dock->setObjectName(QStringLiteral("blotter"));
-    dock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable);
-    dock->setWidget(m_blotter);
-    m_blotter->view()->setTableViewCaption(tr("Order blotter"));
-    addDockWidget(Qt::TopDockWidgetArea, dock);
-    setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
-    m_showcase = new ZrShowcaseDocks(this, dock);
+    connect(m_toolBar, &ZrDeskToolBar::signalSkinChosen, this, &ZrMainWindow::signalSkinChosen);
+    connect(m_desk, &ZrPluginDesk::signalOpened, this,
+            [this] { m_showcase->setFront(m_desk->docks().value(0)); });
 }
 
-void ZrMainWindow::addShowcaseButton()
+void ZrMainWindow::addPlugins(ZrPluginCatalogue *catalogue)
 {
-    auto *const button = new QToolButton(m_toolBar);
-    button->setObjectName(QStringLiteral("showcaseButton"));
-    button->setText(tr("Showcase"));
-    button->setToolTip(tr("A page for each widget, with all its states"));
-    button->setPopupMode(QToolButton::InstantPopup);
-    button->setMenu(m_showcase->makeMenu(button));
-    m_toolBar->addSeparator();
-    m_toolBar->addWidget(button);
+    m_plugins = new ZrPluginsDock(catalogue, this);
+    m_plugins->placeIn(this, m_desk->docks().value(0));
+    m_toolBar->addWidget(m_plugins->makeButton(m_toolBar));
 }
 
 void ZrMainWindow::loadSkin(const QVariant &css)

@@ -4,12 +4,15 @@
 
 #include <QtWidgets/QMainWindow>
 
-class ZrBlotterPanel;
-class ZrBlotterToolBar;
+class ZrDeskToolBar;
+class ZrPluginCatalogue;
+class ZrPluginDesk;
+class ZrPluginsDock;
 class ZrShowcaseDocks;
 class ZrStatusLine;
 
-/// The workstation's window: docks, tool bar, status bar; behind the blotter a dock for each showcase page.
+/// The workstation's window: tool bar, plugins in their docks, status bar; behind the first plugin a dock for
+/// each showcase page.
 ///
 /// Ownership: normal QWidget parent rules.
 /// Threads:   GUI thread only.
@@ -18,13 +21,18 @@ class ZrMainWindow : public QMainWindow, public IZrSkin
     Q_OBJECT
     Q_INTERFACES(IZrSkin)
 public:
-    ZrMainWindow(const QStringList &skins, const QString &skin, int maxRows);
+    ZrMainWindow(const QStringList &skins, const QString &skin);
 
     void loadSkin(const QVariant &css) override;
-    ZrBlotterPanel *blotter() const { return m_blotter; }
-    ZrBlotterToolBar *toolBar() const { return m_toolBar; }
+    ZrPluginDesk *desk() const { return m_desk; }
+    ZrDeskToolBar *toolBar() const { return m_toolBar; }
     ZrStatusLine *statusLine() const { return m_status; }
     ZrShowcaseDocks *showcase() const { return m_showcase; }
+    ZrPluginsDock *plugins() const { return m_plugins; }
+
+    /// Adds the dock of the plugin files with its button, behind the first plugin. It comes to the front when
+    /// a plugin ended the last start and stays closed otherwise. The catalogue is borrowed.
+    void addPlugins(ZrPluginCatalogue *catalogue);
 
 signals:
     void signalSkinChosen(const QString &skin);
@@ -34,11 +42,11 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    void addDocks();
-    void addShowcaseButton();
+    void connectParts();
 
-    ZrBlotterPanel *m_blotter;
-    ZrBlotterToolBar *m_toolBar;
+    ZrDeskToolBar *m_toolBar;
+    ZrPluginDesk *m_desk;
     ZrStatusLine *m_status;
-    ZrShowcaseDocks *m_showcase = nullptr;
+    ZrShowcaseDocks *m_showcase;
+    ZrPluginsDock *m_plugins = nullptr;
 };

@@ -1,6 +1,7 @@
 #include "ZrRunReport.h"
 
 #include <QtCore/QFile>
+#include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QSaveFile>
@@ -14,6 +15,16 @@ QJsonObject timesOf(const ZrLatencyMeter &meter)
     return {{QStringLiteral("p50"), meter.percentileUs(0.5)},
             {QStringLiteral("p99"), meter.percentileUs(0.99)},
             {QStringLiteral("max"), meter.maxUs()}};
+}
+
+QJsonArray runsOf(const QVector<ZrPluginRun> &plugins)
+{
+    QJsonArray runs;
+    for (const ZrPluginRun &plugin : plugins)
+        runs.append(QJsonObject{{QStringLiteral("id"), plugin.id},
+                                {QStringLiteral("instance"), plugin.instance},
+                                {QStringLiteral("rows"), plugin.rows}});
+    return runs;
 }
 
 double secondsOf(const timeval &time)
@@ -47,6 +58,7 @@ QByteArray ZrRunReport::toJson() const
                                 {QStringLiteral("updates_applied"), updatesApplied},
                                 {QStringLiteral("frames"), frames},
                                 {QStringLiteral("lines_skipped"), linesSkipped},
+                                {QStringLiteral("plugins"), runsOf(plugins)},
                                 {QStringLiteral("feed_to_model_us"), timesOf(feedToModel)},
                                 {QStringLiteral("feed_to_pixel_us"), timesOf(feedToPixel)},
                                 {QStringLiteral("cpu_seconds"), cpuSeconds()},

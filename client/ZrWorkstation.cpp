@@ -1,22 +1,33 @@
 #include "ZrWorkstation.h"
 
+#include "ZrViewBase.h"
+
+#include "desk/ZrDeskToolBar.h"
+#include "desk/ZrFeedMonitor.h"
+#include "desk/ZrFeedProgress.h"
+#include "desk/ZrLinkedShot.h"
+#include "desk/ZrPluginDesk.h"
+#include "desk/ZrPluginDock.h"
 #include "feed/ZrFeedPlayer.h"
 #include "feed/ZrRecordingTee.h"
-#include "ZrBlotterPanel.h"
-#include "ZrBlotterPresenter.h"
 #include "ZrClientApplication.h"
 #include "ZrClientFields.h"
 #include "ZrFeedFactory.h"
 #include "ZrMainWindow.h"
-#include "ZrMessageInbox.h"
+#include "ZrPluginCatalogue.h"
+#include "ZrPluginsDock.h"
+#include "ZrPluginsPanel.h"
 #include "ZrShots.h"
 #include "ZrStatusLine.h"
-#include "ZrTableView.h"
 
 #include "zrcore/ZrCore.h"
+#include "zrcore/ZrCoreHost.h"
 #include "ZrReferenceHost.h"
 
+#include <QtCore/QDebug>
 #include <QtCore/QLocale>
+
+#include <algorithm>
 
 namespace {
 constexpr int StatusMs = 500;
@@ -28,6 +39,18 @@ QString languageOf(const ZrWorkstationOptions &options)
 {
     const QString language = options.language.isEmpty() ? QLocale().name() : options.language;
     return language.startsWith(QLatin1String("zh")) ? QStringLiteral("zh_CN") : QStringLiteral("en");
+}
+
+qint64 rowsOf(const ZrPluginDock *dock)
+{
+    const QVariantMap data = ZrPluginDesk::dataOf(dock);
+    if (data.contains(ZrPluginReport::rows) || !dock->plugin())
+        return data.value(ZrPluginReport::rows).toLongLong();
+    qint64 rows = 0;
+    const QList<ZrViewBase *> views = dock->plugin()->findChildren<ZrViewBase *>();
+    for (ZrViewBase *const view : views)
+        rows += view->getViewCurrentDisplayData().size();
+    return rows;
 }
 } // namespace
 
@@ -45,9 +68,9 @@ ZrWorkstation::~ZrWorkstation()
 {
     if (m_player)
         m_player->stop();
-    if (m_presenter) {
-        m_presenter->detach();
-        m_presenter->deleteLater();
+    if (m_monitor) {
+        m_monitor->detach();
+        m_monitor->deleteLater();
     }
     m_app->watchFrames(nullptr);
     m_window.reset();
@@ -58,11 +81,18 @@ QString ZrWorkstation::start()
 {
     QString error = startHost();
     if (error.isEmpty())
+        error = loadPlugins();
+    if (error.isEmpty())
         error = makeFeed();
     if (!error.isEmpty())
         return error;
     makeWindow();
     connectBus();
+    error = openPlugins();
+    if (!error.isEmpty())
+        return error;
+    m_window->addPlugins(m_plugins.get());
+    connect(m_window->plugins()->panel(), &ZrPluginsPanel::signalLoaded, this, &ZrWorkstation::offerPlugins);
     m_window->show();
     // The first picture costs more than any later one: a feed that had begun would wait for it.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
@@ -80,6 +110,27 @@ QString ZrWorkstation::startHost()
     host.faults = m_options.faults;
     host.database.language = languageOf(m_options);
     return m_host->start(host) ? QString() : m_host->errorText();
+}
+
+QString ZrWorkstation::loadPlugins()
+{
+    m_plugins =
+        std::make_unique<ZrPluginCatalogue>([this](const QString &id, const ZrPluginCatalogue::Maker &maker) {
+            m_host->registerPlugin(id, [this, id, maker] {
+                QObject *const object = maker();
+                m_window->desk()->prepare(id, object);
+                return object;
+            });
+        });
+    const QString folder = m_options.pluginFolder.isEmpty() ? m_paths.plugins : m_options.pluginFolder;
+    ZrPluginCatalogue::Options options;
+    options.folder = m_options.noPlugins ? QString() : folder;
+    options.manifest = m_options.pluginManifest;
+    options.stateFolder = ZrCoreHost::instance().configFolder();
+    const QString error = m_plugins->scan(options);
+    if (error.isEmpty())
+        m_plugins->loadAll();
+    return error;
 }
 
 QString ZrWorkstation::makeFeed()
@@ -103,30 +154,86 @@ QString ZrWorkstation::makeFeed()
 
 void ZrWorkstation::makeWindow()
 {
-    m_window = std::make_unique<ZrMainWindow>(m_host->skinIds(), ZrCore::instance()->getCurrentSkinId(),
-                                              m_options.maxRows);
+    m_window = std::make_unique<ZrMainWindow>(m_host->skinIds(), ZrCore::instance()->getCurrentSkinId());
     m_host->setMainWindow(m_window.get());
     m_window->statusLine()->setFeed(m_options.feed.isEmpty() ? QStringLiteral("simulator") : m_options.feed);
     connect(m_window.get(), &ZrMainWindow::signalSkinChosen, this,
             [this](const QString &skin) { m_host->setSkin(skin); });
     connect(m_window.get(), &ZrMainWindow::signalClosed, this, &ZrWorkstation::signalDone);
-    m_app->watchFrames(m_window->blotter());
-    connect(m_app, &ZrClientApplication::signalFrame, m_window->blotter(), &ZrBlotterPanel::frameShown);
+    connect(m_window->toolBar(), &ZrDeskToolBar::signalPluginChosen, this, &ZrWorkstation::openPlugin);
+    connect(m_window->desk(), &ZrPluginDesk::signalCopyWanted, this, &ZrWorkstation::openPlugin);
+    connect(m_window->desk(), &ZrPluginDesk::signalOpened, this, &ZrWorkstation::watch);
+    connect(m_window->desk(), &ZrPluginDesk::signalData, this,
+            [this](ZrPluginDock *dock, const QVariant &data) { takeData(dock, data.toMap()); });
+    connect(m_app, &ZrClientApplication::signalFrame, this, [this] { m_meter.frameShown(); });
     connect(&m_status, &QTimer::timeout, this, &ZrWorkstation::refreshStatus);
     connect(&m_end, &QTimer::timeout, this, &ZrWorkstation::signalDone);
 }
 
+void ZrWorkstation::offerPlugins()
+{
+    m_window->desk()->setGuard([this](const QString &pluginId, const std::function<void()> &work) {
+        m_plugins->guarded(pluginId, work);
+    });
+    QList<QPair<QString, QString>> plugins;
+    for (const ZrPluginEntry &entry : m_plugins->entries()) {
+        if (entry.state == ZrPluginEntry::Loaded)
+            plugins.append({entry.file.id, entry.file.title});
+    }
+    m_window->toolBar()->setPlugins(plugins);
+}
+
+QString ZrWorkstation::openPlugins()
+{
+    offerPlugins();
+    if (m_options.noPlugins && m_options.open.isEmpty())
+        return QString();
+    const QString blotter = QStringLiteral("blotter");
+    const QStringList wanted = m_options.open.isEmpty() ? QStringList{blotter, blotter} : m_options.open;
+    for (const QString &pluginId : wanted) {
+        QString error;
+        if (m_window->desk()->open(pluginId, {{ZrPluginSetting::maxRows, m_options.maxRows}}, &error))
+            continue;
+        if (!m_options.open.isEmpty())
+            return QStringLiteral("--open: ") + error;
+        // Whoever asked for nothing gets a desk without the blotter; the list of plugins tells why.
+        qWarning().noquote() << error;
+        break;
+    }
+    return QString();
+}
+
+void ZrWorkstation::openPlugin(const QString &pluginId)
+{
+    QString error;
+    if (!m_window->desk()->open(pluginId, {{ZrPluginSetting::maxRows, m_options.maxRows}}, &error))
+        qWarning().noquote() << error;
+}
+
+void ZrWorkstation::watch(ZrPluginDock *dock)
+{
+    if (!m_measured) {
+        m_measured = dock;
+        m_app->watchFrames(dock->plugin());
+    }
+    const auto grid = quintptr(dock);
+    connect(dock, &QObject::destroyed, this, [this, grid] { m_progress->gridGone(grid); });
+}
+
+void ZrWorkstation::takeData(ZrPluginDock *dock, const QVariantMap &data)
+{
+    if (data.contains(ZrPluginReport::number))
+        m_progress->taken(quintptr(dock), data.value(ZrPluginReport::number).toLongLong());
+    if (dock == m_measured)
+        m_meter.take(data);
+}
+
 void ZrWorkstation::connectBus()
 {
-    m_inbox = std::make_unique<ZrMessageInbox>();
-    connect(m_inbox.get(), &ZrMessageInbox::signalBatch, this, &ZrWorkstation::takeBatch);
-    m_presenter = new ZrBlotterPresenter(QStringLiteral("blotter#client#_0"), m_inbox.get());
-    // What does not go through the window is seen once it has come; the rest when the grid has it.
-    m_presenter->setSeenCall([this](qint64 number) {
-        if (m_inbox->isEmpty())
-            m_player->acknowledge(number);
-    });
-    m_presenter->open();
+    m_progress = std::make_unique<ZrFeedProgress>([this](qint64 number) { m_player->acknowledge(number); });
+    m_monitor = new ZrFeedMonitor(QStringLiteral("client#monitor#_0"));
+    m_monitor->setSeenCall([this](qint64 number, bool isOrder) { m_progress->came(number, isOrder); });
+    m_monitor->open();
 }
 
 void ZrWorkstation::startFeed()
@@ -145,19 +252,20 @@ void ZrWorkstation::startFeed()
                     });
 }
 
-void ZrWorkstation::takeBatch(const std::vector<ZrInboxMessage> &messages)
-{
-    m_window->blotter()->applyMessages(messages);
-    m_player->acknowledge(messages.back().record.value(ZrClientFields::seqNo).toLongLong());
-}
-
 void ZrWorkstation::refreshStatus()
 {
-    const qint64 received = m_presenter->received();
+    const qint64 received = m_monitor->received();
     m_window->statusLine()->show(received - m_receivedAtStatus, m_sinceStatus.restart(),
-                                 m_window->blotter()->view()->getRowCount(),
-                                 m_window->blotter()->takeRecentToPixel());
+                                 m_measured ? int(rowsOf(m_measured)) : 0, m_meter.takeRecentToPixel());
     m_receivedAtStatus = received;
+}
+
+bool ZrWorkstation::isWaiting() const
+{
+    const QList<ZrPluginDock *> docks = m_window->desk()->docks();
+    return std::any_of(docks.cbegin(), docks.cend(), [](const ZrPluginDock *dock) {
+        return ZrPluginDesk::dataOf(dock).value(ZrPluginReport::isWaiting).toBool();
+    });
 }
 
 // Takes in what the bus still holds, and shows it.
@@ -166,21 +274,23 @@ void ZrWorkstation::drain()
     m_host->waitIdle(IdleMs);
     QElapsedTimer taken;
     taken.start();
-    while (!m_inbox->isEmpty() && taken.elapsed() < MostDrainMs)
+    while (isWaiting() && taken.elapsed() < MostDrainMs)
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void ZrWorkstation::fillReport()
 {
-    const ZrBlotterPanel *const blotter = m_window->blotter();
-    m_report.messagesIn = m_presenter->received();
-    m_report.messagesLost = m_player->sent() - m_presenter->distinct();
-    m_report.rows = blotter->view()->getViewData().size();
-    m_report.updatesApplied = blotter->updatesApplied();
-    m_report.frames = blotter->frames();
-    m_report.feedToModel = blotter->toModel();
-    m_report.feedToPixel = blotter->toPixel();
+    m_report.messagesIn = m_monitor->received();
+    m_report.messagesLost = m_player->sent() - m_monitor->distinct();
+    const QList<ZrPluginDock *> docks = m_window->desk()->docks();
+    for (const ZrPluginDock *const dock : docks)
+        m_report.plugins.append({dock->pluginId(), dock->plugin()->pluginInstanceID(), rowsOf(dock)});
+    m_report.rows = m_measured ? rowsOf(m_measured) : 0;
+    m_report.updatesApplied = m_meter.updatesApplied();
+    m_report.frames = m_meter.frames();
+    m_report.feedToModel = m_meter.toModel();
+    m_report.feedToPixel = m_meter.toPixel();
     m_report.linesSkipped = m_player->source().linesSkipped();
     m_problems = m_player->source().problems();
 }
@@ -192,6 +302,8 @@ QString ZrWorkstation::writeFiles()
         error = m_tee->finish();
     if (error.isEmpty() && !m_options.shotsFolder.isEmpty())
         error = ZrShots::write(m_window.get(), m_options.shotsFolder);
+    if (error.isEmpty() && !m_options.shotsFolder.isEmpty())
+        error = ZrLinkedShot::write(m_window.get(), m_window->desk()->docks(), m_options.shotsFolder);
     if (error.isEmpty() && !m_options.shotsFolder.isEmpty())
         error = ZrShots::writePages(m_window->showcase(), m_options.shotsFolder);
     if (error.isEmpty() && !m_options.reportFile.isEmpty())
@@ -207,6 +319,6 @@ QString ZrWorkstation::finish()
     m_status.stop(); // it keeps showing the rate of the run, not that of its end
     drain();
     fillReport();
-    m_presenter->detach();
+    m_monitor->detach();
     return writeFiles();
 }

@@ -5,6 +5,8 @@
 #include <limits>
 
 namespace {
+constexpr int MostOpen = 20;
+
 QString text(const char *latin)
 {
     return QString::fromLatin1(latin);
@@ -13,7 +15,7 @@ QString text(const char *latin)
 void addFlags(QCommandLineParser *parser)
 {
     parser->setApplicationDescription(
-        text("Trading workstation: a live order blotter fed from a recording or a simulator."));
+        text("Trading workstation: live plugins fed from a recording or a simulator."));
     parser->addOption({{text("h"), text("help")}, text("Shows this.")});
     parser->addOption({text("headless"), text("Runs without a display.")});
     parser->addOption({text("seconds"), text("Ends after so many seconds."), text("N")});
@@ -33,6 +35,17 @@ void addFlags(QCommandLineParser *parser)
     parser->addOption({text("skin"), text("Skin to begin with."), text("ID")});
     parser->addOption(
         {text("faults"), text("Faults of the bus, such as drop=0.01,delay=5..20,seed=7."), text("SPEC")});
+    parser->addOption({text("open"),
+                       text("Plugins to open, one below the other; \"blotter,blotter\" otherwise."),
+                       text("ID,ID...")});
+    parser->addOption(
+        {text("plugins"), text("Folder of plugin files; that of the program otherwise."), text("DIR")});
+    parser->addOption({text("plugin-manifest"),
+                       text("Loads only plugin files that this list of SHA-256 hashes names."),
+                       text("FILE")});
+    parser->addOption({text("no-plugins"), text("Starts without plugins.")});
+    parser->addOption(
+        {text("list-plugins"), text("Tells which plugin files there are, without running them.")});
     parser->addOption({text("lang"), text("zh_CN or en; that of the locale otherwise."), text("zh_CN|en")});
 }
 
@@ -78,6 +91,15 @@ public:
         return given;
     }
 
+    QStringList ids(const char *flag)
+    {
+        const QString given = notEmpty(flag);
+        const QStringList found = given.isEmpty() ? QStringList() : given.split(QLatin1Char(','));
+        if (found.contains(QString()) || found.size() > MostOpen)
+            complain(flag, QStringLiteral("one to %1 IDs").arg(MostOpen), given);
+        return found;
+    }
+
     void complain(const char *flag, const QString &wanted, const QString &given)
     {
         if (m_error->isEmpty())
@@ -115,6 +137,11 @@ bool ZrWorkstationOptions::parse(const QStringList &arguments, ZrWorkstationOpti
     options->recordFile = values.notEmpty("record");
     options->skin = values.notEmpty("skin");
     options->faults = values.notEmpty("faults");
+    options->open = values.ids("open");
+    options->pluginFolder = values.notEmpty("plugins");
+    options->pluginManifest = values.notEmpty("plugin-manifest");
+    options->noPlugins = parser.isSet(text("no-plugins"));
+    options->listPlugins = parser.isSet(text("list-plugins"));
     options->language = values.notEmpty("lang");
     if (!options->language.isEmpty() && options->language != text("zh_CN") && options->language != text("en"))
         values.complain("lang", text("zh_CN or en"), options->language);

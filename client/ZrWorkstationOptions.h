@@ -22,7 +22,12 @@ struct ZrWorkstationOptions
     QString recordFile; // description of the recording to write
     QString skin;
     QString faults;
-    QString language; // empty: that of the locale
+    QStringList open;         // IDs of the plugins to open; empty: the blotter twice
+    QString language;         // empty: that of the locale
+    QString pluginFolder;     // empty: that of the program
+    QString pluginManifest;   // empty: none is asked for
+    bool noPlugins = false;   // loads none, wherever they lie
+    bool listPlugins = false; // tells what lies in the folder and ends
 
     static bool parse(const QStringList &arguments, ZrWorkstationOptions *options, QString *error);
     static QString helpText();

@@ -1,10 +1,13 @@
 #include "ZrClientApplication.h"
 #include "ZrLanguage.h"
+#include "ZrPluginCatalogue.h"
+#include "ZrPluginTexts.h"
 #include "ZrQuietPlatform.h"
 #include "ZrWorkstation.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QLoggingCategory>
+#include <QtCore/QStandardPaths>
 
 #include <cstdio>
 
@@ -49,13 +52,34 @@ QString firstFolder(const QStringList &folders)
 
 ZrWorkstationPaths findPaths()
 {
-    const QString shared = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/zrwidget");
+    const QString program = QCoreApplication::applicationDirPath();
+    const QString shared = program + QStringLiteral("/../share/zrwidget");
     ZrWorkstationPaths paths;
     paths.skins = firstFolder({shared + QStringLiteral("/skin"), QStringLiteral(ZR_SOURCE_DIR "/skin")});
     paths.data = firstFolder({shared + QStringLiteral("/data"), QStringLiteral(ZR_SOURCE_DIR "/data")});
     paths.recordings = QStringList{firstFolder(
         {shared + QStringLiteral("/recordings"), QStringLiteral(ZR_SOURCE_DIR "/client/recordings")})};
+    paths.plugins = firstFolder(
+        {program + QStringLiteral("/" ZR_PLUGIN_PATH), program + QStringLiteral("/../lib/zrwidget/plugins")});
     return paths;
+}
+
+// Nothing is loaded, and no mark of an ended start is taken away: that is the next start's.
+int listPlugins(const ZrWorkstationOptions &options)
+{
+    ZrPluginCatalogue catalogue([](const QString &, const ZrPluginCatalogue::Maker &) {});
+    ZrPluginCatalogue::Options files;
+    files.folder = options.pluginFolder.isEmpty() ? findPaths().plugins : options.pluginFolder;
+    files.manifest = options.pluginManifest;
+    files.stateFolder = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+    files.takeMarks = false;
+    const QString error = catalogue.scan(files);
+    if (!error.isEmpty()) {
+        complain(error);
+        return BadInput;
+    }
+    std::fputs(qPrintable(ZrPluginTexts::table(catalogue.entries())), stdout);
+    return 0;
 }
 
 int run(const ZrWorkstationOptions &options, ZrClientApplication *app)
@@ -66,6 +90,9 @@ int run(const ZrWorkstationOptions &options, ZrClientApplication *app)
         complain(error);
         return BadInput;
     }
+    const QStringList notices = ZrPluginTexts::notices(*workstation.plugins());
+    for (const QString &notice : notices)
+        complain(notice);
     // Queued: a window may close, or a feed end, before the event loop has begun.
     QObject::connect(&workstation, &ZrWorkstation::signalDone, app, &QCoreApplication::quit,
                      Qt::QueuedConnection);
@@ -92,7 +119,7 @@ int main(int argc, char *argv[])
         complain(error);
         return BadInput;
     }
-    chooseDisplay(options.headless || options.help);
+    chooseDisplay(options.headless || options.help || options.listPlugins);
     hastenToolkit();
     // A presenter logs each message that it sorts: far too many for a live feed, unless somebody asks.
     if (!qEnvironmentVariableIsSet("QT_LOGGING_RULES"))
@@ -105,6 +132,8 @@ int main(int argc, char *argv[])
         return 0;
     }
     ZrLanguage::install(&app, options.language);
+    if (options.listPlugins)
+        return listPlugins(options);
     options.headless = QGuiApplication::platformName() == QLatin1String("offscreen");
     if (options.headless)
         ZrQuietPlatform::install();

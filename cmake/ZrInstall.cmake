@@ -12,6 +12,8 @@ target_include_directories(zrwidget INTERFACE $<INSTALL_INTERFACE:${zr_header_di
 # The public headers of the flat folder: no private ones, and none that only another layer of ours includes.
 file(GLOB zr_public_headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/shell/zrwidget/*.h)
 list(FILTER zr_public_headers EXCLUDE REGEX "_p\\.h$")
+# A host connects to the signals of a plugin's private object.
+list(APPEND zr_public_headers ${PROJECT_SOURCE_DIR}/shell/zrwidget/ZrPluginBaseWidget_p.h)
 install(FILES ${zr_public_headers} DESTINATION ${zr_header_dir})
 
 set_target_properties(zrwidget PROPERTIES INSTALL_RPATH "$ORIGIN")
@@ -42,6 +44,7 @@ if(ZR_HOST STREQUAL "reference")
         PATH_VARS zr_data_dir)
     write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/zrwidgetConfigVersion.cmake COMPATIBILITY SameMinorVersion)
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/zrwidgetConfig.cmake ${CMAKE_CURRENT_BINARY_DIR}/zrwidgetConfigVersion.cmake
+        ${PROJECT_SOURCE_DIR}/cmake/ZrPlugin.cmake ${PROJECT_SOURCE_DIR}/cmake/ZrSealFile.cmake
         DESTINATION ${zr_cmake_dir})
 endif()
 configure_file(${PROJECT_SOURCE_DIR}/cmake/zrwidget.pc.in ${CMAKE_CURRENT_BINARY_DIR}/zrwidget.pc @ONLY)

@@ -12,7 +12,7 @@ zr_host_library(zrutils SOURCES hostapi/zrutils/ZrThread.h host/zrutils/ZrThread
 
 set(ZR_THREAD_UNITS
     ZrWaitCondition.cpp ZrAnswerSpin.cpp ZrEventLoop.cpp ZrRequestMessage.cpp ZrPresenterCalls.cpp ZrIncomingMessage.cpp
-    ZrPresenterClass.cpp ZrPresenterClass_p.cpp)
+    ZrPresenterClass.cpp ZrPresenterClass_p.cpp ZrPluginTie.cpp ZrPluginPresenter.cpp)
 list(TRANSFORM ZR_THREAD_UNITS PREPEND shell/zrwidget/)
 add_library(zrwidget SHARED ${ZR_THREAD_UNITS})
 target_compile_definitions(zrwidget PRIVATE ZRWIDGET_LIBRARY PUBLIC ZRWIDGET_EXPORT_PRIVATE)

@@ -28,6 +28,10 @@ class QWidget;
 ///            with an empty skin and an empty bus.
 /// Ownership: the main window is borrowed; plugins made are their caller's; services and makers
 ///            are kept until stop().
+/// Linkage:   an event whose type is a linkage type, put by a participant that IMessageInterface::setRelation
+///            linked by that type, reaches all participants linked by the same menu, type and group, and not
+///            the one who put it. They need no subscription. Its body passes through as it is, and its sender
+///            comes as `pid`. A registration that ends takes its links along.
 /// Threads:   GUI thread only, but for publishing, counters() and waitIdle(), which any thread may
 ///            call. Services run on a bus thread.
 /// Errors:    false with one sentence in errorText().
@@ -55,7 +59,7 @@ public:
         QString dataFolder;            // "ZRData:"; empty for none
         QString skinRoot;              // "ZRSkin:", the folder of the skins' folders; empty for none
         QString skinId;                // empty for the first one found
-        QString pluginFolder;          // plugin files, see zrcore/ZrCorePlugin.h; empty for none
+        QString pluginFolder;          // sealed plugin files, see zrcore/ZrCorePlugin.h; empty for none
         QString faults;                // as setFaults() reads it
         QString loginType;             // empty for that of the reference data
         QWidget *mainWindow = nullptr; // not owned

@@ -20,6 +20,11 @@ def complaints(report):
     for key in ("messages_in", "rows", "updates_applied", "frames"):
         if not report.get(key):
             yield f"{key} is zero: nothing ran"
+    plugins = report.get("plugins")
+    if not isinstance(plugins, list) or not plugins:
+        yield "plugins is missing or empty: none was opened"
+    else:
+        yield from (f"{plugin.get('instance')} has no rows" for plugin in plugins if not plugin.get("rows"))
 
 
 def main():

@@ -2,9 +2,32 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
-    <name>ZrBlotterToolBar</name>
+    <name>ZrAccountBox</name>
     <message>
-        <source>Blotter</source>
+        <source>Account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The account whose data are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All accounts</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrDeskToolBar</name>
+    <message>
+        <source>Workstation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open plugin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another plugin on the desk</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -23,233 +46,6 @@
         <source>Light</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>Freeze left</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The first columns stay in place</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Freeze right</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The last column stays in place</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Check boxes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A check box in front of each row</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Follow</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>New orders come into sight</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Open orders</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Leaves out finished orders</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sums of all orders</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Delayed display</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Gathers new rows for 200 ms; stays on once chosen</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Numbers</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A column that counts the rows</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>upwards</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>downwards</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Rows</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The oldest orders leave beyond this</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>ZrColumnTexts</name>
-    <message>
-        <source>Order no.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Symbol</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Market</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Side</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Type</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Validity</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Price</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Quantity</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Order value</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Entered</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Report</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Filled</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Withdrawn</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Average price</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Last price</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Last quantity</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Filled value</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Done</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Fills</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Report no.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Changed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Day</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Trading account</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Account name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Asset account</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Asset name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Product</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Investor</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Node</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>order</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>execution</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>account</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>ZrMainWindow</name>
@@ -258,15 +54,34 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Order blotter</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Showcase</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>A page for each widget, with all its states</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrPluginTitleBar</name>
+    <message>
+        <source>Open another one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Float or dock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -908,6 +723,78 @@
         <source>Tip</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Choices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ranges of numbers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filtered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Searched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens at a filter button</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list below a filter button: what the column holds, to be searched and ticked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order limits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without a shadow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without a title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without buttons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One button</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Own parts in the title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A frameless dialog that hosts a plugin or any other widget.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fixed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resizable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asks before it closes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The changes are lost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ZrStatusLine</name>
@@ -925,6 +812,159 @@
     </message>
     <message>
         <source>Tick to pixel: %1 ms median, %2 ms 99th percentile</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrPluginTexts</name>
+    <message>
+        <source>found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>loaded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot be read: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No plugin: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Damaged: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Neither a seal nor a manifest vouches for its content</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Made for another machine or toolkit: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wrong interface: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No usable ID: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Has the ID of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not in the manifest, or with another hash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missing symbol: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missing library: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot be loaded: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A start ended while it was loaded or made</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By the user</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The last start ended while the plugin %1 was loaded or made; it is switched off.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refused plugin files: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrPluginsPanel</name>
+    <message>
+        <source>Load at start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notice about plugins</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plugin files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether the next start loads this plugin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loads the plugin in spite of what the start left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read (ms)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load (ms)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The choice cannot be kept: the configuration folder cannot be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrPluginsDock</name>
+    <message>
+        <source>Plugins</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which plugin files are loaded, and why others are not</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -2,10 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
-    <name>ZrBlotterToolBar</name>
+    <name>ZrAccountBox</name>
     <message>
-        <source>Blotter</source>
-        <translation>委托列表</translation>
+        <source>Account</source>
+        <translation>账户</translation>
+    </message>
+    <message>
+        <source>The account whose data are shown</source>
+        <translation>显示哪个账户的数据</translation>
+    </message>
+    <message>
+        <source>All accounts</source>
+        <translation>全部账户</translation>
+    </message>
+</context>
+<context>
+    <name>ZrDeskToolBar</name>
+    <message>
+        <source>Workstation</source>
+        <translation>工作站</translation>
+    </message>
+    <message>
+        <source>Open plugin</source>
+        <translation>打开插件</translation>
+    </message>
+    <message>
+        <source>Another plugin on the desk</source>
+        <translation>在桌面上再打开一个插件</translation>
     </message>
     <message>
         <source>Skin</source>
@@ -23,233 +46,6 @@
         <source>Light</source>
         <translation>浅色</translation>
     </message>
-    <message>
-        <source>Freeze left</source>
-        <translation>冻结左侧</translation>
-    </message>
-    <message>
-        <source>Freeze right</source>
-        <translation>冻结右侧</translation>
-    </message>
-    <message>
-        <source>The first columns stay in place</source>
-        <translation>前几列保持不动</translation>
-    </message>
-    <message>
-        <source>The last column stays in place</source>
-        <translation>最后一列保持不动</translation>
-    </message>
-    <message>
-        <source>Check boxes</source>
-        <translation>复选框</translation>
-    </message>
-    <message>
-        <source>A check box in front of each row</source>
-        <translation>每行前显示复选框</translation>
-    </message>
-    <message>
-        <source>Follow</source>
-        <translation>跟随最新</translation>
-    </message>
-    <message>
-        <source>New orders come into sight</source>
-        <translation>新委托自动滚动到可见处</translation>
-    </message>
-    <message>
-        <source>Open orders</source>
-        <translation>仅在途</translation>
-    </message>
-    <message>
-        <source>Leaves out finished orders</source>
-        <translation>不显示已完成的委托</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>合计</translation>
-    </message>
-    <message>
-        <source>Sums of all orders</source>
-        <translation>所有委托的合计</translation>
-    </message>
-    <message>
-        <source>Delayed display</source>
-        <translation>延迟显示</translation>
-    </message>
-    <message>
-        <source>Gathers new rows for 200 ms; stays on once chosen</source>
-        <translation>新行汇集 200 毫秒后显示;选中后不可取消</translation>
-    </message>
-    <message>
-        <source>Numbers</source>
-        <translation>序号</translation>
-    </message>
-    <message>
-        <source>A column that counts the rows</source>
-        <translation>显示行序号的列</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>无</translation>
-    </message>
-    <message>
-        <source>upwards</source>
-        <translation>升序</translation>
-    </message>
-    <message>
-        <source>downwards</source>
-        <translation>降序</translation>
-    </message>
-    <message>
-        <source>Rows</source>
-        <translation>行数上限</translation>
-    </message>
-    <message>
-        <source>The oldest orders leave beyond this</source>
-        <translation>超过后移除最早的委托</translation>
-    </message>
-</context>
-<context>
-    <name>ZrColumnTexts</name>
-    <message>
-        <source>Order no.</source>
-        <translation>委托编号</translation>
-    </message>
-    <message>
-        <source>Symbol</source>
-        <translation>证券</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>证券名称</translation>
-    </message>
-    <message>
-        <source>Market</source>
-        <translation>市场</translation>
-    </message>
-    <message>
-        <source>Side</source>
-        <translation>方向</translation>
-    </message>
-    <message>
-        <source>Type</source>
-        <translation>类型</translation>
-    </message>
-    <message>
-        <source>Validity</source>
-        <translation>有效期</translation>
-    </message>
-    <message>
-        <source>Price</source>
-        <translation>委托价</translation>
-    </message>
-    <message>
-        <source>Quantity</source>
-        <translation>委托数量</translation>
-    </message>
-    <message>
-        <source>Order value</source>
-        <translation>委托金额</translation>
-    </message>
-    <message>
-        <source>Entered</source>
-        <translation>委托时间</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>状态</translation>
-    </message>
-    <message>
-        <source>Report</source>
-        <translation>回报</translation>
-    </message>
-    <message>
-        <source>Filled</source>
-        <translation>成交数量</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>未成数量</translation>
-    </message>
-    <message>
-        <source>Withdrawn</source>
-        <translation>撤单数量</translation>
-    </message>
-    <message>
-        <source>Average price</source>
-        <translation>成交均价</translation>
-    </message>
-    <message>
-        <source>Last price</source>
-        <translation>最新成交价</translation>
-    </message>
-    <message>
-        <source>Last quantity</source>
-        <translation>最新成交量</translation>
-    </message>
-    <message>
-        <source>Filled value</source>
-        <translation>成交金额</translation>
-    </message>
-    <message>
-        <source>Done</source>
-        <translation>成交比例</translation>
-    </message>
-    <message>
-        <source>Fills</source>
-        <translation>笔数</translation>
-    </message>
-    <message>
-        <source>Report no.</source>
-        <translation>回报编号</translation>
-    </message>
-    <message>
-        <source>Changed</source>
-        <translation>更新时间</translation>
-    </message>
-    <message>
-        <source>Day</source>
-        <translation>日期</translation>
-    </message>
-    <message>
-        <source>Trading account</source>
-        <translation>交易账户</translation>
-    </message>
-    <message>
-        <source>Account name</source>
-        <translation>账户名称</translation>
-    </message>
-    <message>
-        <source>Asset account</source>
-        <translation>资产账户</translation>
-    </message>
-    <message>
-        <source>Asset name</source>
-        <translation>资产账户名称</translation>
-    </message>
-    <message>
-        <source>Product</source>
-        <translation>产品</translation>
-    </message>
-    <message>
-        <source>Investor</source>
-        <translation>投资者</translation>
-    </message>
-    <message>
-        <source>Node</source>
-        <translation>节点</translation>
-    </message>
-    <message>
-        <source>order</source>
-        <translation>委托</translation>
-    </message>
-    <message>
-        <source>execution</source>
-        <translation>成交</translation>
-    </message>
-    <message>
-        <source>account</source>
-        <translation>账户</translation>
-    </message>
 </context>
 <context>
     <name>ZrMainWindow</name>
@@ -258,16 +54,35 @@
         <translation>交易工作站</translation>
     </message>
     <message>
-        <source>Order blotter</source>
-        <translation>委托列表</translation>
-    </message>
-    <message>
         <source>Showcase</source>
         <translation>控件展示</translation>
     </message>
     <message>
         <source>A page for each widget, with all its states</source>
         <translation>每个控件一页，列出它的各种状态</translation>
+    </message>
+</context>
+<context>
+    <name>ZrPluginTitleBar</name>
+    <message>
+        <source>Open another one</source>
+        <translation>再打开一个</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>刷新</translation>
+    </message>
+    <message>
+        <source>Float or dock</source>
+        <translation>浮动或停靠</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
     </message>
 </context>
 <context>
@@ -908,6 +723,78 @@
         <source>Tip</source>
         <translation>提示</translation>
     </message>
+    <message>
+        <source>Choices</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>Ranges of numbers</source>
+        <translation>数值区间</translation>
+    </message>
+    <message>
+        <source>Filtered</source>
+        <translation>已筛选</translation>
+    </message>
+    <message>
+        <source>Searched</source>
+        <translation>搜索后</translation>
+    </message>
+    <message>
+        <source>Opens at a filter button</source>
+        <translation>在筛选按钮处打开</translation>
+    </message>
+    <message>
+        <source>The list below a filter button: what the column holds, to be searched and ticked.</source>
+        <translation>筛选按钮下的列表：列中的取值，可搜索、可勾选。</translation>
+    </message>
+    <message>
+        <source>Order limits</source>
+        <translation>委托限制</translation>
+    </message>
+    <message>
+        <source>Without a shadow</source>
+        <translation>无阴影</translation>
+    </message>
+    <message>
+        <source>Without a title</source>
+        <translation>无标题</translation>
+    </message>
+    <message>
+        <source>Without buttons</source>
+        <translation>无按钮</translation>
+    </message>
+    <message>
+        <source>One button</source>
+        <translation>一个按钮</translation>
+    </message>
+    <message>
+        <source>Own parts in the title</source>
+        <translation>标题中的自有部件</translation>
+    </message>
+    <message>
+        <source>A frameless dialog that hosts a plugin or any other widget.</source>
+        <translation>承载插件或任意控件的无边框对话框。</translation>
+    </message>
+    <message>
+        <source>Fixed</source>
+        <translation>固定大小</translation>
+    </message>
+    <message>
+        <source>Resizable</source>
+        <translation>可调整大小</translation>
+    </message>
+    <message>
+        <source>Asks before it closes</source>
+        <translation>关闭前询问</translation>
+    </message>
+    <message>
+        <source>The changes are lost.</source>
+        <translation>更改将会丢失。</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>委托</translation>
+    </message>
 </context>
 <context>
     <name>ZrStatusLine</name>
@@ -926,6 +813,159 @@
     <message>
         <source>Tick to pixel: %1 ms median, %2 ms 99th percentile</source>
         <translation>行情到显示:中位 %1 毫秒,99% 分位 %2 毫秒</translation>
+    </message>
+</context>
+<context>
+    <name>ZrPluginTexts</name>
+    <message>
+        <source>found</source>
+        <translation>已找到</translation>
+    </message>
+    <message>
+        <source>loaded</source>
+        <translation>已加载</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>已拒绝</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>已停用</translation>
+    </message>
+    <message>
+        <source>Cannot be read: %1</source>
+        <translation>无法读取:%1</translation>
+    </message>
+    <message>
+        <source>No plugin: %1</source>
+        <translation>不是插件:%1</translation>
+    </message>
+    <message>
+        <source>Damaged: %1</source>
+        <translation>已损坏:%1</translation>
+    </message>
+    <message>
+        <source>Neither a seal nor a manifest vouches for its content</source>
+        <translation>内容既无封印也无清单担保</translation>
+    </message>
+    <message>
+        <source>Made for another machine or toolkit: %1</source>
+        <translation>为其他机器或工具包构建:%1</translation>
+    </message>
+    <message>
+        <source>Wrong interface: %1</source>
+        <translation>接口不符:%1</translation>
+    </message>
+    <message>
+        <source>No usable ID: %1</source>
+        <translation>没有可用的标识:%1</translation>
+    </message>
+    <message>
+        <source>Has the ID of %1</source>
+        <translation>标识与 %1 重复</translation>
+    </message>
+    <message>
+        <source>Not in the manifest, or with another hash</source>
+        <translation>不在清单中,或哈希不符</translation>
+    </message>
+    <message>
+        <source>Missing symbol: %1</source>
+        <translation>缺少符号:%1</translation>
+    </message>
+    <message>
+        <source>Missing library: %1</source>
+        <translation>缺少库:%1</translation>
+    </message>
+    <message>
+        <source>Cannot be loaded: %1</source>
+        <translation>无法加载:%1</translation>
+    </message>
+    <message>
+        <source>A start ended while it was loaded or made</source>
+        <translation>加载或创建它时启动中断</translation>
+    </message>
+    <message>
+        <source>By the user</source>
+        <translation>由用户停用</translation>
+    </message>
+    <message>
+        <source>The last start ended while the plugin %1 was loaded or made; it is switched off.</source>
+        <translation>上次启动在加载或创建插件 %1 时中断,该插件已停用。</translation>
+    </message>
+    <message>
+        <source>Refused plugin files: %1.</source>
+        <translation>已拒绝的插件文件:%1。</translation>
+    </message>
+</context>
+<context>
+    <name>ZrPluginsPanel</name>
+    <message>
+        <source>Load at start</source>
+        <translation>启动时加载</translation>
+    </message>
+    <message>
+        <source>Load now</source>
+        <translation>立即加载</translation>
+    </message>
+    <message>
+        <source>Notice about plugins</source>
+        <translation>插件通知</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>Plugin files</source>
+        <translation>插件文件</translation>
+    </message>
+    <message>
+        <source>Whether the next start loads this plugin</source>
+        <translation>下次启动时是否加载此插件</translation>
+    </message>
+    <message>
+        <source>Loads the plugin in spite of what the start left out</source>
+        <translation>加载启动时未加载的插件</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>标识</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Read (ms)</source>
+        <translation>读取(毫秒)</translation>
+    </message>
+    <message>
+        <source>Load (ms)</source>
+        <translation>加载(毫秒)</translation>
+    </message>
+    <message>
+        <source>The choice cannot be kept: the configuration folder cannot be written.</source>
+        <translation>选择无法保存:配置文件夹不可写。</translation>
+    </message>
+</context>
+<context>
+    <name>ZrPluginsDock</name>
+    <message>
+        <source>Plugins</source>
+        <translation>插件</translation>
+    </message>
+    <message>
+        <source>Which plugin files are loaded, and why others are not</source>
+        <translation>哪些插件文件已加载,其余为何未加载</translation>
     </message>
 </context>
 </TS>

@@ -1,6 +1,5 @@
 #include "ZrOrderSample.h"
 
-#include "ZrColumnTexts.h"
 #include "ZrRoleKeys.h"
 #include "ZrShowcase.h"
 #include "ZrTableView.h"
@@ -51,14 +50,14 @@ RecordData record(const Order &order, const ZrTableView &view)
 
 HeadList heads(bool bands)
 {
-    const QStringList titles = {QStringLiteral("Symbol"), QStringLiteral("Name"), QStringLiteral("Side"),
-                                QStringLiteral("Price"), QStringLiteral("Quantity")};
+    const QStringList titles = {ZrShowcase::tr("Symbol"), ZrShowcase::tr("Name"), ZrShowcase::tr("Side"),
+                                ZrShowcase::tr("Price"), ZrShowcase::tr("Quantity")};
     HeadList list;
     for (int column = 0; column < titles.size(); ++column) {
-        QMap<QString, QVariant> head{{HEAD_DISPLAYROLE, ZrColumnTexts::title(titles.at(column))}};
+        QMap<QString, QVariant> head{{HEAD_DISPLAYROLE, titles.at(column)}};
         if (bands) {
-            const QString band = column < ZrOrderSample::Side ? ZrShowcase::tr("Security")
-                                                              : ZrColumnTexts::band(QStringLiteral("order"));
+            const QString band =
+                column < ZrOrderSample::Side ? ZrShowcase::tr("Security") : ZrShowcase::tr("Order");
             head.insert(HEAD_GROUPID, band);
             head.insert(HEAD_GROUPNAME, band);
         }

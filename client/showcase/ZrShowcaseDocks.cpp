@@ -2,7 +2,6 @@
 
 #include "ZrShowcasePage.h"
 
-#include <QtWidgets/QDockWidget>
 #include <QtWidgets/QMainWindow>
 #include <QtWidgets/QMenu>
 
@@ -41,12 +40,26 @@ QDockWidget *ZrShowcaseDocks::open(const QString &id)
 
 QDockWidget *ZrShowcaseDocks::make(const ZrShowcaseEntry &entry)
 {
+    QDockWidget *const before = front();
     auto *const dock = new QDockWidget(entry.title, m_window);
     dock->setObjectName(QStringLiteral("showcase-") + entry.id);
     m_window->addDockWidget(Qt::TopDockWidgetArea, dock);
-    m_window->tabifyDockWidget(m_front, dock);
+    if (before)
+        m_window->tabifyDockWidget(before, dock);
     dock->setWidget(entry.make(dock));
     return dock;
+}
+
+QDockWidget *ZrShowcaseDocks::front() const
+{
+    if (m_front)
+        return m_front;
+    const QList<QDockWidget *> docks =
+        m_window->findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    const auto page = std::find_if(docks.cbegin(), docks.cend(), [](const QDockWidget *dock) {
+        return dock->objectName().startsWith(QLatin1String("showcase-"));
+    });
+    return page == docks.cend() ? nullptr : *page;
 }
 
 QMenu *ZrShowcaseDocks::makeMenu(QWidget *parent)

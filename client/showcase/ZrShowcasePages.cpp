@@ -10,8 +10,10 @@ QList<ZrShowcaseEntry> ZrShowcasePages::all()
         // --- grid ---
         entry("table-view", "ZrTableView", "grid", zrMakeTableViewPage),
         entry("header-view", "ZrHeaderView", "grid", zrMakeHeaderViewPage),
+        entry("filter-popup", "ZrViewFilterWidget", "grid", zrMakeFilterPopupPage),
 
         // --- dialogs ---
+        entry("dialog", "ZrDialog", "dialogs", zrMakeDialogPage),
         entry("message-box", "ZrMessageBox", "dialogs", zrMakeMessageBoxPage),
         entry("comfirm-dialog", "ZrComfirmDialog", "dialogs", zrMakeComfirmDialogPage),
         entry("toast-dialog", "ZrToastDialog", "dialogs", zrMakeToastDialogPage),

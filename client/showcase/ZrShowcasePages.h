@@ -25,8 +25,10 @@ public:
 // --- grid ---
 ZrShowcasePage *zrMakeTableViewPage(QWidget *parent);
 ZrShowcasePage *zrMakeHeaderViewPage(QWidget *parent);
+ZrShowcasePage *zrMakeFilterPopupPage(QWidget *parent);
 
 // --- dialogs ---
+ZrShowcasePage *zrMakeDialogPage(QWidget *parent);
 ZrShowcasePage *zrMakeMessageBoxPage(QWidget *parent);
 ZrShowcasePage *zrMakeComfirmDialogPage(QWidget *parent);
 ZrShowcasePage *zrMakeToastDialogPage(QWidget *parent);

@@ -7,7 +7,7 @@ class QObject;
 /// What a plugin file of the client offers: its root object makes the plugin object.
 ///
 /// The root object names Q_PLUGIN_METADATA(IID ZrCorePlugin_iid FILE "x.json") with a "pluginId" in
-/// the file, and Q_INTERFACES(ZrCorePlugin).
+/// the file, and Q_INTERFACES(ZrCorePlugin). Its target is sealed by zr_seal_plugin() of the CMake package.
 /// Ownership: what createObject makes is the caller's.
 /// Threads:   GUI thread only.
 class ZrCorePlugin

@@ -2,12 +2,11 @@
 
 #include "zrcm/ZrKnownIds.h"
 #include "ZrCorePlugin.h"
+#include "ZrPluginLoader.h"
 
 #include <QtCore/QDebug>
 #include <QtCore/QDir>
-#include <QtCore/QJsonObject>
 #include <QtCore/QLibrary>
-#include <QtCore/QPluginLoader>
 
 ZrObjectShelf::ZrObjectShelf() = default;
 
@@ -50,15 +49,11 @@ void ZrObjectShelf::clear()
 
 void ZrObjectShelf::addFile(const QString &path)
 {
-    const QJsonObject meta = QPluginLoader(path).metaData();
-    if (meta.value(QLatin1String("IID")).toString() != QLatin1String(ZrCorePlugin_iid))
+    const ZrPluginFile file = ZrPluginFile::read(path);
+    if (file.reason != ZrPluginReason::None || m_files.contains(file.id))
         return;
-    const QJsonObject own = meta.value(QLatin1String("MetaData")).toObject();
-    const QString id = own.value(QLatin1String("pluginId")).toString();
-    if (id.isEmpty() || m_files.contains(id))
-        return;
-    m_files.insert(id, path);
-    ZrKnownIds::insert(id);
+    m_files.insert(file.id, file);
+    ZrKnownIds::insert(file.id);
 }
 
 QStringList ZrObjectShelf::ids() const
@@ -78,13 +73,13 @@ QObject *ZrObjectShelf::make(const QString &id) const
     const Maker maker = m_makers.value(id);
     if (maker)
         return maker();
-    const QString path = m_files.value(id);
-    if (path.isEmpty())
+    const auto known = m_files.constFind(id);
+    if (known == m_files.cend())
         return nullptr;
-    QPluginLoader loader(path);
-    ZrCorePlugin *const plugin = qobject_cast<ZrCorePlugin *>(loader.instance());
+    ZrPluginFile file = *known;
+    ZrCorePlugin *const plugin = ZrPluginLoader::load(&file);
     if (!plugin) {
-        qWarning() << "ZrCore::createCustomObject" << id << loader.errorString();
+        qWarning() << "ZrCore::createCustomObject" << id << file.detail;
         return nullptr;
     }
     return plugin->createObject();

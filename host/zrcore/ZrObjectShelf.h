@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ZrPluginFile.h"
+
 #include <QtCore/QHash>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
@@ -11,10 +13,11 @@ class QObject;
 /// The objects that the client can make by ID: registered in code, or plugins found in a folder.
 ///
 /// Shape:     a plugin file's meta data holds "pluginId"; only that is read until the object is asked
-///            for. What is registered in code goes before a file of the same ID.
+///            for. What is registered in code goes before a file of the same ID. Of two files with one ID the
+///            first by name counts.
 /// Ownership: makers are kept; what they make is the caller's.
 /// Threads:   GUI thread only.
-/// Errors:    a file that is no plugin or names no ID is skipped.
+/// Errors:    a file that is no plugin, is damaged or unsealed, or names no ID is skipped.
 class ZrObjectShelf
 {
 public:
@@ -36,5 +39,5 @@ private:
     void addFile(const QString &path);
 
     QHash<QString, Maker> m_makers;
-    QHash<QString, QString> m_files; // ID to the plugin file's path
+    QHash<QString, ZrPluginFile> m_files; // by ID
 };

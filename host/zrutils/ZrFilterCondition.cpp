@@ -102,9 +102,15 @@ ZrFilterCondition::ZrFilterCondition(const QVariantMap &condition, ZrValueKind k
     if (!value.isValid())
         m_operator = Unknown;
     m_text = value.toString();
+    // A filter of texts may have a hundred thousand conditions, and reading a date takes longer than all
+    // else.
+    if (kind == ZrValueKind::Text)
+        return;
     m_number = ZrNumber::fromVariant(value);
     if (m_number.kind() == ZrNumber::None)
         m_number = ZrNumber::fromText(m_text.trimmed());
+    if (kind == ZrValueKind::Number)
+        return;
     for (const ZrValueKind each : {ZrValueKind::Date, ZrValueKind::Time, ZrValueKind::DateTime})
         m_times[placeOf(each)] = ZrClockTime::fromVariant(value, each);
 }

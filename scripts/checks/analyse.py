@@ -45,7 +45,7 @@ def reached(name, seen, roots):
 
 def fingerprint(name, kind):
     seen = set()
-    reached(name, seen, ["hostapi", "host", "shell/zrwidget", "client"])
+    reached(name, seen, ["hostapi", "host", "shell/zrwidget", "client", "client/desk"])
     digest = hashlib.sha256((kind + CLAZY + repo.read(".clang-tidy")).encode())
     for part in sorted(seen):
         digest.update(part.encode())
@@ -66,9 +66,9 @@ def plain_arguments(entry):
 
 def command_for(kind, name, entry, build):
     if kind == "tidy":
-        return [tool("clang-tidy"), "--quiet", "-p", str(build), f"--header-filter={repo.ROOT}/(hostapi|host|shell|client)/", name]
+        return [tool("clang-tidy"), "--quiet", "-p", str(build), f"--header-filter={repo.ROOT}/(hostapi|host|shell|client|plugins)/", name]
     if kind == "clazy":
-        return ["clazy-standalone", f"--checks={CLAZY}", "-p", str(build), f"--header-filter={repo.ROOT}/(hostapi|host|shell|client)/", name]
+        return ["clazy-standalone", f"--checks={CLAZY}", "-p", str(build), f"--header-filter={repo.ROOT}/(hostapi|host|shell|client|plugins)/", name]
     return ["g++", "-fsyntax-only", "-fPIC", "-Wall", "-Wextra", "-Werror", *plain_arguments(entry), "-include", name, "-x", "c++", "/dev/null"]
 
 

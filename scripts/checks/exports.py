@@ -26,7 +26,13 @@ def exported(library):
 
 
 def listed():
-    return {unit for unit, cells in rows.rows().items() if cells[2].lower() == "yes"}
+    names = set()
+    for unit, cells in rows.rows().items():
+        if cells[2].lower() in ("yes", "with private class"):
+            names.add(unit)
+        if cells[2].lower() == "with private class":
+            names.add(f"{unit}Private")
+    return names
 
 
 def main():

@@ -12,6 +12,7 @@ UPWARD = {}
 FORBIDDEN = {
     "shell/": [(r"^Zr(ReferenceHost|DataStore)", "shell never includes host/"), (r"(^|/)host/", "shell never includes host/")],
     "host/": [(r"(^|/)shell/", "host never includes shell/")],
+    "plugins/": [(r"(^|/)(client|host|shell)/", "plugins use only installed headers")],
 }
 
 

@@ -16,6 +16,12 @@ LANGUAGES = ["en", "zh_CN"]
 CHINESE = re.compile("[\u4e00-\u9fff]")
 
 
+def places(root):
+    """Folder and files of texts; a plugin brings its own."""
+    plugins = sorted(path.parent.name for path in (root / "plugins").glob("*/i18n"))
+    return PLACES + [(f"plugins/{name}", f"plugins/{name}/i18n/{name}_{{}}.ts") for name in plugins]
+
+
 def entries(path):
     """(context, source) -> the message's element."""
     found = {}
@@ -44,7 +50,7 @@ def is_done(language, key, translation):
 
 def complaints(root=repo.ROOT):
     found = []
-    for folder, pattern in PLACES:
+    for folder, pattern in places(root):
         for language in LANGUAGES:
             name = pattern.format(language)
             held = entries(root / name)

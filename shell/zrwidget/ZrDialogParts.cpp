@@ -22,6 +22,24 @@ QHBoxLayout *makeRow(const QString &name, const ZrDialogParts::Row &space, QWidg
     return row;
 }
 
+QString buttonRow()
+{
+    return QStringLiteral("horizontalLayout_2");
+}
+
+ZrDialogParts::Buttons fillButtons(QHBoxLayout *row, QWidget *owner, const QString &confirmName,
+                                   const QString &cancelName)
+{
+    auto *const confirm = new QPushButton(owner);
+    confirm->setObjectName(confirmName);
+    auto *const cancel = new QPushButton(owner);
+    cancel->setObjectName(cancelName);
+    row->addSpacerItem(new QSpacerItem(40, 20, QSizePolicy::Expanding, QSizePolicy::Minimum));
+    row->addWidget(confirm);
+    row->addWidget(cancel);
+    return {row, confirm, cancel};
+}
+
 QMargins evenMargins(int px)
 {
     return {px, px, px, px};
@@ -47,6 +65,15 @@ ZrShadowFrame *ZrDialogParts::addMainFrame(QWidget *window, const QString &layou
     return frame;
 }
 
+QFrame *ZrDialogParts::addPlainFrame(QWidget *window, const QString &layoutName)
+{
+    auto *const frame = new QFrame(window);
+    frame->setObjectName(QStringLiteral("frame_main"));
+    column(layoutName, window)->addWidget(frame);
+    column(QStringLiteral("verticalLayout_3"), frame);
+    return frame;
+}
+
 ZrDialogParts::Title ZrDialogParts::addTitle(QBoxLayout *below, const QString &text, const Row &space)
 {
     auto *const frame = new QFrame(below->parentWidget());
@@ -63,6 +90,28 @@ ZrDialogParts::Title ZrDialogParts::addTitle(QBoxLayout *below, const QString &t
     return {frame, row, label};
 }
 
+void ZrDialogParts::addTitleSpace(const Title &title)
+{
+    title.row->addSpacerItem(new QSpacerItem(737, 20, QSizePolicy::Expanding, QSizePolicy::Minimum));
+    // With the stretch the space yields first: two parts without one share a shortage, and the text would be
+    // cut beside free room.
+    title.row->setStretch(title.row->indexOf(title.label), 0);
+    title.row->setStretch(title.row->count() - 1, 1);
+}
+
+QPushButton *ZrDialogParts::addTitleButton(const Title &title, const QString &objectName, const QString &name)
+{
+    auto *const button = new QPushButton(title.frame);
+    button->setObjectName(objectName);
+    button->setAccessibleName(name);
+    button->setToolTip(name);
+    button->setFocusPolicy(Qt::NoFocus);
+    // Return would otherwise press the first button of the window, which is one of these.
+    button->setAutoDefault(false);
+    title.row->addWidget(button);
+    return button;
+}
+
 QFrame *ZrDialogParts::addWork(QBoxLayout *below)
 {
     auto *const frame = new QFrame(below->parentWidget());
@@ -74,17 +123,15 @@ QFrame *ZrDialogParts::addWork(QBoxLayout *below)
 ZrDialogParts::Buttons ZrDialogParts::addButtons(QBoxLayout *below, const QString &confirmName,
                                                  const QString &cancelName, const Row &space)
 {
-    QWidget *const owner = below->parentWidget();
-    auto *const confirm = new QPushButton(owner);
-    confirm->setObjectName(confirmName);
-    auto *const cancel = new QPushButton(owner);
-    cancel->setObjectName(cancelName);
-    QHBoxLayout *const row = makeRow(QStringLiteral("horizontalLayout_2"), space);
-    row->addSpacerItem(new QSpacerItem(40, 20, QSizePolicy::Expanding, QSizePolicy::Minimum));
-    row->addWidget(confirm);
-    row->addWidget(cancel);
+    QHBoxLayout *const row = makeRow(buttonRow(), space);
     below->addLayout(row);
-    return {row, confirm, cancel};
+    return fillButtons(row, below->parentWidget(), confirmName, cancelName);
+}
+
+ZrDialogParts::Buttons ZrDialogParts::addButtons(QWidget *on, const QString &confirmName,
+                                                 const QString &cancelName, const Row &space)
+{
+    return fillButtons(makeRow(buttonRow(), space, on), on, confirmName, cancelName);
 }
 
 void ZrDialogParts::setButtonText(QPushButton *button, const QString &text)

@@ -56,12 +56,23 @@ public:
     /// The window's layout of that name with "frame_main" in it; the frame's own column stands clear of its
     /// edge.
     static ZrShadowFrame *addMainFrame(QWidget *window, const QString &layoutName);
+    /// The same with a frame that has no shadow, for a window that is part of another picture.
+    static QFrame *addPlainFrame(QWidget *window, const QString &layoutName);
     /// "frame_title" with "label_title".
     static Title addTitle(QBoxLayout *below, const QString &text, const Row &space);
+    /// Space after the title's text, and what is added behind it stands at the right. The text keeps its
+    /// width as long as there is room for it.
+    static void addTitleSpace(const Title &title);
+    /// A button of the title: known by its picture, which the style sheet gives, and its name. It takes
+    /// neither the focus nor the return key.
+    static QPushButton *addTitleButton(const Title &title, const QString &objectName, const QString &name);
     /// "frame_work", which takes the height that is left.
     static QFrame *addWork(QBoxLayout *below);
     /// The two buttons at the right of a row "horizontalLayout_2".
     static Buttons addButtons(QBoxLayout *below, const QString &confirmName, const QString &cancelName,
+                              const Row &space);
+    /// The same as the whole of a widget without a layout.
+    static Buttons addButtons(QWidget *on, const QString &confirmName, const QString &cancelName,
                               const Row &space);
     /// A caller's text for a button: no shortcut, and no wider than a button may be; the whole of a longer
     /// one is its tool tip.

@@ -125,7 +125,9 @@ void ZrHeaderView::onStateChanged(int state)
 
 void ZrHeaderView::slotFilterStatusChanged()
 {
-    if (ZrHeaderHost *const host = ZrHeaderHost::of(this))
+    // A tree's rows can't be filtered. Nothing may follow the call: who is told of the choice may end us.
+    ZrHeaderHost *const host = ZrHeaderHost::of(this);
+    if (host && isTableHead())
         host->filterChoiceChanged(this);
 }
 

@@ -4,6 +4,7 @@
 
 #include <QtCore/QMap>
 #include <QtCore/QObject>
+#include <QtCore/QPointer>
 #include <QtCore/QRect>
 #include <QtGui/QColor>
 
@@ -30,17 +31,18 @@ public:
     bool sortable = false;
     bool viewFilterable = false; // filter button for every column
     bool filterButtonAlwaysVisible = true;
-    QMap<int, bool> perColumnFilterable;        // overrides viewFilterable
-    QMap<int, QRect> filterButtonRects;         // there since the button was first painted
-    int hoverSection = -1;                      // view column whose filter button is under the pointer
-    bool checkPressed = false;                  // a press landed on the check column
-    bool checked = false;                       // state of the head's check box
-    bool partial = false;                       // was partly checked at some time; setChecked() forgets it
-    bool partialPending = false;                // is partly checked now
-    int headXMargin = 0;                        // px
-    int filterButtonSize = 16;                  // px
-    ZrViewFilterWidget *filterWidget = nullptr; // made by the view at the first use, child of filterDialog
-    ZrDialog *filterDialog = nullptr;           // made with filterWidget
+    QMap<int, bool> perColumnFilterable;       // overrides viewFilterable
+    QMap<int, QRect> filterButtonRects;        // there since the button was first painted
+    int hoverSection = -1;                     // view column whose filter button is under the pointer
+    bool checkPressed = false;                 // a press landed on the check column
+    bool checked = false;                      // state of the head's check box
+    bool partial = false;                      // was partly checked at some time; setChecked() forgets it
+    bool partialPending = false;               // is partly checked now
+    int headXMargin = 0;                       // px
+    int filterButtonSize = 16;                 // px
+    QPointer<ZrViewFilterWidget> filterWidget; // made at the first use, child of filterDialog
+    QPointer<ZrDialog> filterDialog;           // made with filterWidget, child of the head that was pressed
+    QMetaObject::Connection filterConnection;  // from filterWidget to the head that was pressed last
     QMap<int, QString> headTips;
     QMap<int, QRect> tipRects;
     QMap<int, bool> perColumnSortable; // overrides sortable

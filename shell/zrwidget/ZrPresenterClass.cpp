@@ -1,5 +1,6 @@
 #include "ZrPresenterClass.h"
 
+#include "ZrPluginTie.h"
 #include "ZrPresenterClass_p.h"
 #include "ZrRequestMessage.h"
 
@@ -26,8 +27,9 @@ ZrPresenterClass::ZrPresenterClass(const QString &pluginPid, QObject *plugin,
     // the empty receivers of this class.
     d->Reg(pluginPid, d, type);
     setObjectName(pluginPid);
-    // Here a plugin widget is tied to its presenter; other plugins need no tie.
-    Q_UNUSED(plugin)
+    // A plugin widget is tied to its presenter; other plugins need no tie.
+    if (ZrPluginTie *const tie = ZrPluginTie::of(plugin))
+        tie->tiePresenter(this);
     if (type & ownThreadBit)
         d->startThread();
 }

@@ -79,14 +79,23 @@ void ZrTableCheckCounter::rowsMoved(int rowCount)
         allRowsNew(rowCount);
 }
 
+namespace {
+// A row that has its cell isn't touched: whoever shares it would lose that, at the price of a copy.
+void stampRow(RecordDataList &rows, int row)
+{
+    if (!rows.at(row).contains(ZrRowStateColumn))
+        rows[row][ZrRowStateColumn];
+}
+} // namespace
+
 void ZrTableCheckCounter::stamp(RecordDataList &rows)
 {
     const int front = qMin(m_newAtFront, rows.size());
     const int back = qMax(front, rows.size() - m_newAtBack);
     for (int row = 0; row < front; ++row)
-        rows[row][ZrRowStateColumn];
+        stampRow(rows, row);
     for (int row = back; row < rows.size(); ++row)
-        rows[row][ZrRowStateColumn];
+        stampRow(rows, row);
     m_newAtFront = 0;
     m_newAtBack = 0;
 }

@@ -22,6 +22,17 @@ QString textOf(const ItemRoleMap &cell)
     return QString();
 }
 
+// The usual cell, a text shown and perhaps a raw value, is its own choice; nothing is copied then.
+bool isChoice(const ItemRoleMap &cell)
+{
+    const auto shown = cell.constBegin();
+    if (cell.isEmpty() || cell.size() > 2 || shown.key() != ITEM_DISPLAYROLE ||
+        shown->userType() != QMetaType::QString ||
+        static_cast<const QString *>(shown->constData())->isEmpty())
+        return false;
+    return cell.size() == 1 || std::next(shown).key() == ITEM_USERROLE;
+}
+
 QVariant valueOfType(const ItemRoleMap &cell, int valueType)
 {
     for (const QString &role : {ITEM_USERROLE, ITEM_CUSTOMROLE, ITEM_DISPLAYROLE}) {
@@ -84,7 +95,12 @@ QList<ItemRoleMap> ZrTableFilterParse::getFilterRecordList(int valueType, const 
 QList<ItemRoleMap> ZrTableFilterParse::distinctTexts(const QList<ItemRoleMap> &cells)
 {
     ZrDistinctCells distinct;
+    distinct.reserve(cells.size());
     for (const ItemRoleMap &cell : cells) {
+        if (isChoice(cell)) {
+            distinct.add(cell);
+            continue;
+        }
         ItemRoleMap choice;
         choice.insert(ITEM_DISPLAYROLE, textOf(cell));
         const auto raw = cell.constFind(ITEM_USERROLE);

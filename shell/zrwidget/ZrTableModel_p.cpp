@@ -1,7 +1,7 @@
 #include "ZrTableModel_p.h"
 
+#include "ZrDistinctCells.h"
 #include "ZrRoleKeys.h"
-#include "ZrTableCandidates.h"
 #include "ZrTableChecks.h"
 #include "ZrTableRows.h"
 #include "ZrTableSumText.h"
@@ -104,7 +104,7 @@ void ZrTableModelPrivate::removeColumnFilterData(int column)
 
 QList<ItemRoleMap> ZrTableModelPrivate::columnCandidates(int column) const
 {
-    return ZrTableCandidates::distinctCells(modelData, column);
+    return ZrDistinctCells::ofColumn(modelData, column);
 }
 
 // --- Checks and sums ---

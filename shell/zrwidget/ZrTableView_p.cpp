@@ -11,6 +11,7 @@
 #include "ZrTableSummary.h"
 
 #include <QtCore/QDebug>
+#include <QtCore/QPointer>
 #include <QtWidgets/QVBoxLayout>
 
 ZrTableViewPrivate::ZrTableViewPrivate(ZrTableView *facade)
@@ -18,6 +19,7 @@ ZrTableViewPrivate::ZrTableViewPrivate(ZrTableView *facade)
     , view(facade)
     , columns(new ZrTableColumns(this))
     , summary(new ZrTableSummary(this))
+    , filterOpener(ZrFilterOpener::make(this))
 {
 }
 
@@ -434,16 +436,26 @@ void ZrTableViewPrivate::openFilter(ZrHeaderView *head, int logicalColumn, const
 {
     // A column that has seen no data has no type to compare by.
     if (model->getModelPrivate()->columnTypes.contains(logicalColumn))
-        emit signalFilterRequested(head, logicalColumn, buttonRect);
+        filterOpener->open(head, logicalColumn, buttonRect);
 }
 
 void ZrTableViewPrivate::filterChoiceChanged(ZrHeaderView *head)
 {
+    // Whoever is told of the filter may end the grid.
+    const QPointer<ZrTableView> self(view);
+    const QPointer<ZrHeaderView> asked(head);
+    filterOpener->takeChoice(head);
+    if (!self)
+        return;
     updateSummary();
-    emit head->signalFilterListChanged(model->getViewCurrentFilterList());
+    table->updateHeads();
+    const ViewFilterList filters = model->getViewCurrentFilterList();
+    const QPointer<ZrHeaderView> main(header);
+    if (asked)
+        emit asked->signalFilterListChanged(filters);
     // Callers hear of filters from the main head only; a side head speaks through it.
-    if (head != header)
-        emit header->signalFilterListChanged(model->getViewCurrentFilterList());
+    if (main && main != asked)
+        emit main->signalFilterListChanged(filters);
 }
 
 // --- ZrFrozenHost ---

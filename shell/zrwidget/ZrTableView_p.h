@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ZrColumnOffsets.h"
+#include "ZrFilterOpener.h"
 #include "ZrFrozenGrid.h"
 #include "ZrHeaderHost.h"
 #include "ZrTableView.h"
@@ -84,6 +85,7 @@ public:
     ZrTableColumns *columns = nullptr;
     ZrTableSummary *summary = nullptr;
     ZrGroupedHeadHeight *groupedHeight = nullptr;
+    const std::unique_ptr<ZrFilterOpener> filterOpener;
 
     // --- Verbs for the family ---
     /// Pseudo-columns in front of the caller's: view column = logical column + offset.
@@ -137,8 +139,6 @@ public slots:
 
 signals:
     void signalRemovePluginView(ZrViewBase *view);
-    /// A filter button of `head` was pressed; the choice list opens below `buttonRect` (head coordinates).
-    void signalFilterRequested(ZrHeaderView *head, int logicalColumn, QRect buttonRect);
 
 private:
     bool wouldCutGroup(int side, int count) const;

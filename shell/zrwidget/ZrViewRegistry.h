@@ -22,7 +22,7 @@ class ZrViewBase;
 ///            QPointer would not do: a widget deletes its children while such pointers still see it.
 /// Threads:   GUI thread only.
 /// Errors:    a caption without an entry gives no list.
-class ZRWIDGET_PRIVATE_EXPORT ZrViewRegistry
+class ZRWIDGET_EXPORT ZrViewRegistry
 {
 public:
     virtual ~ZrViewRegistry();

@@ -1,5 +1,7 @@
 #include "ZrWindowPlace.h"
 
+#include "ZrScreenFit.h"
+
 #include <QtGui/QCursor>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
@@ -10,12 +12,6 @@ namespace {
 // A narrower target is a helper widget that nobody sees, and a window over it would hang in a corner.
 constexpr int narrowestTargetPx = 20;
 
-QPoint centredCorner(const QRect &target, const QRect &frame)
-{
-    return {target.left() + (target.width() - frame.width()) / 2,
-            target.top() + (target.height() - frame.height()) / 2};
-}
-
 } // namespace
 
 void ZrWindowPlace::place(QWidget *window, int mode)
@@ -25,7 +21,18 @@ void ZrWindowPlace::place(QWidget *window, int mode)
     const QRect wanted = target(*window, mode);
     const QRect over = wanted.isNull() ? screenInUse() : wanted;
     if (!over.isNull())
-        window->move(centredCorner(over, window->frameGeometry()));
+        window->move(ZrScreenFit::centred(window->frameGeometry(), over));
+}
+
+void ZrWindowPlace::fitToScreen(QWidget *window)
+{
+    const QRect screen = screenInUse();
+    if (!window || screen.isNull())
+        return;
+    const QPoint corner = ZrScreenFit::corner(window->frameGeometry(), screen);
+    window->setMaximumSize(ZrScreenFit::most(screen));
+    if (corner != window->frameGeometry().topLeft())
+        window->move(corner);
 }
 
 QRect ZrWindowPlace::target(const QWidget &window, int mode)
@@ -46,12 +53,11 @@ QRect ZrWindowPlace::target(const QWidget &window, int mode)
 
 QRect ZrWindowPlace::screenInUse()
 {
+    QList<QRect> available;
     const QList<QScreen *> screens = QGuiApplication::screens();
-    for (const QScreen *const screen : screens) {
-        if (screen->availableGeometry().contains(QCursor::pos()))
-            return screen->availableGeometry();
-    }
-    return QRect();
+    for (const QScreen *const screen : screens)
+        available.append(screen->availableGeometry());
+    return ZrScreenFit::screenAt(available, QCursor::pos());
 }
 
 QWidget *ZrWindowPlace::topmostAncestor(const QWidget &widget)

@@ -24,6 +24,8 @@ public:
 
     /// Centres `window` as its mode says.
     static void place(QWidget *window, int mode);
+    /// No larger than the screen in use, less an edge; a window as large as that goes to the screen's corner.
+    static void fitToScreen(QWidget *window);
     /// What the mode centres on; null when there is nothing of a usable size.
     static QRect target(const QWidget &window, int mode);
     /// Where windows may lie on the screen that the pointer is on; null when it's on none.

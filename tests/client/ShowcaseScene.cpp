@@ -14,7 +14,7 @@ ShowcaseScene::ShowcaseScene(const QString &skin)
     options.skinRoot = QStringLiteral(ZR_SKINS);
     options.skinId = skin;
     m_ready = m_host.start(options);
-    m_window = std::make_unique<ZrMainWindow>(m_host.skinIds(), skin, 1000);
+    m_window = std::make_unique<ZrMainWindow>(m_host.skinIds(), skin);
     m_host.setMainWindow(m_window.get());
     m_window->show();
     m_ready = m_ready && QTest::qWaitForWindowExposed(m_window.get());

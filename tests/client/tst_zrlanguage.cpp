@@ -18,7 +18,7 @@ private slots:
 namespace {
 QString skinWord()
 {
-    return QCoreApplication::translate("ZrBlotterToolBar", "Skin");
+    return QCoreApplication::translate("ZrDeskToolBar", "Skin");
 }
 QString libraryText()
 {

@@ -20,6 +20,7 @@ private slots:
     void aPageIsMadeOnce();
     void aClosedPageOpensAgain();
     void anUnknownPageOpensNothing();
+    void withoutADockInFrontPagesStandBehindEachOther();
     void theMenuLeadsToEachPage();
 
 private:
@@ -90,6 +91,20 @@ void tst_ZrShowcaseDocks::anUnknownPageOpensNothing()
 {
     QVERIFY(!m_docks->open(QStringLiteral("nothing")));
     QCOMPARE(m_window->findChildren<QDockWidget *>().size(), 1);
+}
+
+void tst_ZrShowcaseDocks::withoutADockInFrontPagesStandBehindEachOther()
+{
+    delete m_front; // closed by its user
+    QDockWidget *const first = m_docks->open(m_docks->ids().value(0));
+    QDockWidget *const second = m_docks->open(m_docks->ids().value(1));
+    QCOMPARE(m_window->tabifiedDockWidgets(first), QList<QDockWidget *>{second});
+    auto *const front = new QDockWidget(QStringLiteral("another"), m_window.get());
+    m_window->addDockWidget(Qt::BottomDockWidgetArea, front);
+    front->show();
+    m_docks->setFront(front);
+    QDockWidget *const third = m_docks->open(QStringLiteral("push-button"));
+    QCOMPARE(m_window->tabifiedDockWidgets(front), QList<QDockWidget *>{third});
 }
 
 void tst_ZrShowcaseDocks::theMenuLeadsToEachPage()

@@ -24,7 +24,7 @@ void tst_ZrWorkstationOptions::withoutFlagsTheDefaultsHold()
     ZrWorkstationOptions options;
     QString error;
     QVERIFY(ZrWorkstationOptions::parse(line(QString()), &options, &error));
-    QVERIFY(!options.headless && !options.help);
+    QVERIFY(!options.headless && !options.help && !options.noPlugins && !options.listPlugins);
     QCOMPARE(options.speed, 1.0);
     QVERIFY(options.seconds < 0);
     QVERIFY(options.feed.isEmpty());
@@ -34,22 +34,25 @@ void tst_ZrWorkstationOptions::eachFlagIsRead()
 {
     ZrWorkstationOptions options;
     QString error;
-    const QStringList flags =
-        line(QStringLiteral("--headless --seconds 2.5 --shots d --report r.json --feed f --speed 0 "
-                            "--rate 50 --seed 4294967295 --skin light --faults drop=1 --lang en "
-                            "--record o.json --rows 9"));
+    const QStringList flags = line(QStringLiteral(
+        "--headless --seconds 2.5 --shots d --report r.json --feed f --speed 0 "
+        "--rate 50 --seed 4294967295 --skin light --faults drop=1 --lang en "
+        "--record o.json --rows 9 --open a,b --plugins p --plugin-manifest m --no-plugins --list-plugins"));
     QVERIFY2(ZrWorkstationOptions::parse(flags, &options, &error), qPrintable(error));
     QVERIFY(options.headless);
+    QVERIFY(options.noPlugins && options.listPlugins);
     QCOMPARE(options.seconds, 2.5);
     QCOMPARE(options.speed, 0.0);
     QCOMPARE(options.rate, 50);
     QCOMPARE(options.seed, 4294967295u);
     QCOMPARE(options.maxRows, 9);
-    QCOMPARE(QStringList({options.shotsFolder, options.reportFile, options.feed, options.skin, options.faults,
-                          options.language, options.recordFile}),
-             QStringList({QStringLiteral("d"), QStringLiteral("r.json"), QStringLiteral("f"),
-                          QStringLiteral("light"), QStringLiteral("drop=1"), QStringLiteral("en"),
-                          QStringLiteral("o.json")}));
+    QCOMPARE(options.open, QStringList({QStringLiteral("a"), QStringLiteral("b")}));
+    QCOMPARE(
+        QStringList({options.shotsFolder, options.reportFile, options.feed, options.skin, options.faults,
+                     options.language, options.recordFile, options.pluginFolder, options.pluginManifest}),
+        QStringList({QStringLiteral("d"), QStringLiteral("r.json"), QStringLiteral("f"),
+                     QStringLiteral("light"), QStringLiteral("drop=1"), QStringLiteral("en"),
+                     QStringLiteral("o.json"), QStringLiteral("p"), QStringLiteral("m")}));
 }
 
 void tst_ZrWorkstationOptions::aBadFlagIsOneSentenceThatNamesIt_data()
@@ -78,6 +81,12 @@ void tst_ZrWorkstationOptions::aBadFlagIsOneSentenceThatNamesIt_data()
                                     << "--seed wants a whole number";
     QTest::newRow("language") << "--lang fr"
                               << "--lang wants zh_CN or en, not \"fr\"";
+    QTest::newRow("a plugin without a name") << "--open a,,b"
+                                             << "--open wants one to 20 IDs";
+    QTest::newRow("too many plugins") << "--open a,b,c,d,e,f,g,h,i,j,k,l,m,n,o,p,q,r,s,t,u"
+                                      << "--open wants one to 20 IDs";
+    QTest::newRow("no manifest named") << "--plugin-manifest="
+                                       << "--plugin-manifest wants a value";
     QTest::newRow("empty file") << "--report="
                                 << "--report wants a value";
 }
@@ -95,8 +104,9 @@ void tst_ZrWorkstationOptions::aBadFlagIsOneSentenceThatNamesIt()
 
 void tst_ZrWorkstationOptions::theHelpNamesEachFlag()
 {
-    for (const char *flag : {"headless", "seconds", "shots", "report", "feed", "speed", "rate", "seed",
-                             "skin", "faults", "lang"})
+    for (const char *flag :
+         {"headless", "seconds", "shots", "report", "feed", "speed", "rate", "seed", "skin", "faults", "lang",
+          "plugins", "plugin-manifest", "no-plugins", "list-plugins", "open"})
         QVERIFY2(ZrWorkstationOptions::helpText().contains(QStringLiteral("--") + QLatin1String(flag)), flag);
 }
 

@@ -16,8 +16,12 @@ private slots:
     void aColumnHasNeitherMarginsNorSpace();
     void theMainFramesColumnStandsClearOfItsEdge();
     void aTitleIsOfAFixedHeight();
+    void aPlainFrameHasNoMargin();
+    void aTitlesTextGoesBeforeItsSpace();
+    void aTitlesButtonTakesNoKeys();
     void theWorkFrameTakesTheRest();
     void buttonsStandAtTheRight();
+    void buttonsCanBeAWholeWidget();
     void bitsShowButtons_data();
     void bitsShowButtons();
     void aButtonsTextIsNoShortcut();
@@ -65,6 +69,48 @@ void tst_ZrDialogParts::aTitleIsOfAFixedHeight()
     QCOMPARE(title.row->itemAt(0)->widget(), title.label);
 }
 
+void tst_ZrDialogParts::aPlainFrameHasNoMargin()
+{
+    QWidget window;
+    const QFrame *const frame = ZrDialogParts::addPlainFrame(&window, "l");
+    QCOMPARE(frame->objectName(), QString("frame_main"));
+    QCOMPARE(window.layout()->objectName(), QString("l"));
+    QCOMPARE(window.layout()->itemAt(0)->widget(), frame);
+    QCOMPARE(frame->layout()->objectName(), QString("verticalLayout_3"));
+    QCOMPARE(frame->layout()->contentsMargins(), QMargins());
+}
+
+void tst_ZrDialogParts::aTitlesTextGoesBeforeItsSpace()
+{
+    QWidget window;
+    const auto title =
+        ZrDialogParts::addTitle(ZrDialogParts::column("c", &window), "Orders", {6, {10, 0, 10, 0}});
+    ZrDialogParts::addTitleSpace(title);
+    QCOMPARE(title.row->itemAt(1)->spacerItem()->sizeHint(), QSize(737, 20));
+    const int neededPx = title.label->sizeHint().width();
+    // Far narrower than what the space asks for.
+    window.resize(neededPx + 60, 31);
+    window.show();
+    QCOMPARE(title.label->width(), neededPx);
+    // And then the text itself.
+    window.resize(neededPx, 31);
+    QVERIFY(title.label->width() < neededPx);
+    QVERIFY(title.label->width() > 0);
+}
+
+void tst_ZrDialogParts::aTitlesButtonTakesNoKeys()
+{
+    QWidget window;
+    const auto title = ZrDialogParts::addTitle(ZrDialogParts::column("c", &window), "t", {6, {}});
+    const QPushButton *const button = ZrDialogParts::addTitleButton(title, "pushButton_x", "Remove");
+    QCOMPARE(button->objectName(), QString("pushButton_x"));
+    QCOMPARE(button->accessibleName(), QString("Remove"));
+    QCOMPARE(button->toolTip(), QString("Remove"));
+    QCOMPARE(button->focusPolicy(), Qt::NoFocus);
+    QVERIFY(!button->autoDefault());
+    QCOMPARE(title.row->indexOf(const_cast<QPushButton *>(button)), 1);
+}
+
 void tst_ZrDialogParts::theWorkFrameTakesTheRest()
 {
     QWidget window;
@@ -94,6 +140,17 @@ void tst_ZrDialogParts::buttonsStandAtTheRight()
     window.show();
     QCOMPARE(buttons.cancel->geometry().right(), 400 - 9 - 1);
     QCOMPARE(buttons.confirm->geometry().right() + 1 + 6, buttons.cancel->geometry().left());
+}
+
+void tst_ZrDialogParts::buttonsCanBeAWholeWidget()
+{
+    QWidget bottom;
+    const auto buttons = ZrDialogParts::addButtons(&bottom, "yes", "no", {6, {9, 0, 9, 9}});
+    QCOMPARE(bottom.layout(), buttons.row);
+    QCOMPARE(buttons.row->objectName(), QString("horizontalLayout_2"));
+    QCOMPARE(buttons.row->contentsMargins(), QMargins(9, 0, 9, 9));
+    QCOMPARE(buttons.confirm->parentWidget(), &bottom);
+    QCOMPARE(buttons.row->indexOf(buttons.cancel), 2);
 }
 
 void tst_ZrDialogParts::bitsShowButtons_data()

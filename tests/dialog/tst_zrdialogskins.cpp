@@ -1,5 +1,6 @@
 #include "DialogScene.h"
 #include "ZrComfirmDialog.h"
+#include "ZrDialog.h"
 #include "ZrMessageBox.h"
 #include "ZrTestMain.h"
 #include "ZrToastDialog.h"
@@ -29,11 +30,30 @@ std::unique_ptr<QDialog> comfirmDialog()
     return dialog;
 }
 
+std::unique_ptr<QDialog> hosting(bool hasShadow)
+{
+    auto dialog = std::make_unique<ZrDialog>("Layout", true, nullptr, 3, true, hasShadow, 0);
+    auto *const content = new QLabel("What is hosted");
+    content->setObjectName("content");
+    content->resize(300, 60);
+    dialog->addWidget(content);
+    dialog->findChild<QPushButton *>("pushButton_fresh")->show();
+    return dialog;
+}
+
 std::unique_ptr<QDialog> toast(int level)
 {
     auto toast = std::make_unique<ZrToastDialog>(nullptr);
     toast->ShowToastMessage("The order was accepted.", level);
     return toast;
+}
+
+bool showsThatItIsDown(const QDialog &dialog, const char *name)
+{
+    auto *const button = dialog.findChild<QPushButton *>(name);
+    const QImage up = button->grab().toImage();
+    button->setDown(true);
+    return button->grab().toImage() != up;
 }
 
 // As the window in use, so that the focus shows alike in each.
@@ -47,7 +67,7 @@ QImage shot(QWidget *window)
 
 Q_DECLARE_METATYPE(Maker)
 
-/// The three dialogs in the skins of the product.
+/// The dialogs in the skins of the product.
 class tst_ZrDialogSkins : public QObject
 {
     Q_OBJECT
@@ -81,6 +101,7 @@ void tst_ZrDialogSkins::addDialogs()
     QTest::addColumn<Maker>("make");
     QTest::newRow("message box") << Maker(messageBox);
     QTest::newRow("confirm dialog") << Maker(comfirmDialog);
+    QTest::newRow("dialog") << Maker([] { return hosting(true); });
     QTest::newRow("tip") << Maker([] { return toast(ZrToastDialog::LevelTip); });
     QTest::newRow("error") << Maker([] { return toast(ZrToastDialog::LevelError); });
 }
@@ -174,6 +195,16 @@ void tst_ZrDialogSkins::textsCanBeRead_data()
         row("table: rows", comfirmDialog, "user_dataView");
         row("table: confirm", comfirmDialog, "pushButton");
         row("table: cancel", comfirmDialog, "pushButton_cancel");
+        const Maker shadowed = [] { return hosting(true); };
+        const Maker plain = [] { return hosting(false); };
+        row("dialog: title", shadowed, "label_title");
+        row("dialog: content", shadowed, "content");
+        row("dialog: OK", shadowed, "pushButton_ok");
+        row("dialog: cancel", shadowed, "pushButton_cancel");
+        row("dialog: refresh", shadowed, "pushButton_fresh");
+        row("dialog: close", shadowed, "pushButton_close");
+        row("plain dialog: title", plain, "label_title");
+        row("plain dialog: content", plain, "content");
         row(
             "tip", [] { return toast(ZrToastDialog::LevelTip); }, "textLabel");
         row(
@@ -213,6 +244,10 @@ void tst_ZrDialogSkins::theFocusCanBeSeen_data()
         row("table: rows", comfirmDialog, "user_dataView");
         row("table: confirm", comfirmDialog, "pushButton");
         row("table: cancel", comfirmDialog, "pushButton_cancel");
+        row(
+            "dialog: OK", [] { return hosting(true); }, "pushButton_ok");
+        row(
+            "dialog: cancel", [] { return hosting(true); }, "pushButton_cancel");
     }
 }
 
@@ -253,13 +288,13 @@ void tst_ZrDialogSkins::thePressedButtonCanBeSeen()
     const DialogScene scene(skin);
     const auto dialog = messageBox();
     dialog->show();
-    for (const char *const name : {"pushButton_ok", "pushButton_cancel", "helpBtn"}) {
-        auto *const button = dialog->findChild<QPushButton *>(name);
-        const QImage up = button->grab().toImage();
-        button->setDown(true);
-        QVERIFY2(button->grab().toImage() != up, name);
-        button->setDown(false);
-    }
+    for (const char *const name : {"pushButton_ok", "pushButton_cancel", "helpBtn"})
+        QVERIFY2(showsThatItIsDown(*dialog, name), name);
+    const auto host = hosting(true);
+    host->show();
+    for (const char *const name :
+         {"pushButton_ok", "pushButton_cancel", "pushButton_fresh", "pushButton_close"})
+        QVERIFY2(showsThatItIsDown(*host, name), name);
 }
 
 void tst_ZrDialogSkins::theCornersAreClear_data()

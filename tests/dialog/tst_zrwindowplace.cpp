@@ -22,6 +22,9 @@ private slots:
     void aTargetIsUsedFromTwentyPixelsOn();
     void aLargerWindowHangsOverAllSides();
     void withoutPointerOnAScreenTheWindowStays();
+    void aWindowLargerThanTheScreenIsFitted_data();
+    void aWindowLargerThanTheScreenIsFitted();
+    void withoutPointerOnAScreenNothingIsFitted();
 
 private:
     static constexpr QPoint where{11, 12};
@@ -148,6 +151,41 @@ void tst_ZrWindowPlace::withoutPointerOnAScreenTheWindowStays()
     QCursor::setPos(-5000, -5000);
     QVERIFY(ZrWindowPlace::screenInUse().isNull());
     ZrWindowPlace::place(m_window.get(), ZrWindowPlace::OverParent);
+    QCOMPARE(m_window->pos(), where);
+}
+
+void tst_ZrWindowPlace::aWindowLargerThanTheScreenIsFitted_data()
+{
+    QTest::addColumn<QSize>("beyond"); // the largest that fits
+    QTest::addColumn<QSize>("size");   // the same, afterwards
+    QTest::addColumn<QPoint>("expected");
+    QTest::newRow("fits") << QSize(-1, -1) << QSize(-1, -1) << where;
+    QTest::newRow("too wide") << QSize(1, -1) << QSize(0, -1) << QPoint(10, where.y());
+    QTest::newRow("too high") << QSize(-1, 1) << QSize(-1, 0) << QPoint(where.x(), 10);
+    QTest::newRow("both") << QSize(500, 500) << QSize(0, 0) << QPoint(10, 10);
+}
+
+void tst_ZrWindowPlace::aWindowLargerThanTheScreenIsFitted()
+{
+    QFETCH(QSize, beyond);
+    QFETCH(QSize, size);
+    QFETCH(QPoint, expected);
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const QSize most = screen.size() - QSize(20, 20);
+    m_window->resize(most + beyond);
+    ZrWindowPlace::fitToScreen(m_window.get());
+    QCOMPARE(m_window->size(), most + size);
+    QCOMPARE(m_window->maximumSize(), most);
+    QCOMPARE(m_window->pos(), expected);
+    ZrWindowPlace::fitToScreen(nullptr);
+}
+
+void tst_ZrWindowPlace::withoutPointerOnAScreenNothingIsFitted()
+{
+    QCursor::setPos(-5000, -5000);
+    m_window->resize(5000, 5000);
+    ZrWindowPlace::fitToScreen(m_window.get());
+    QCOMPARE(m_window->size(), QSize(5000, 5000));
     QCOMPARE(m_window->pos(), where);
 }
 

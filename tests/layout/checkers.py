@@ -94,6 +94,10 @@ class Layers(Planted):
         self.write("plugins/depth/Depth.cpp", '#include "ZrHigh_p.h"\n')
         self.expect("layers", "plugins use only installed headers")
 
+    def test_plugin_uses_the_client(self):
+        self.write("plugins/depth/Depth.cpp", '#include "client/ZrClientFields.h"\n')
+        self.expect("layers", "plugins use only installed headers")
+
 
 class Sizes(Planted):
     def test_long_file(self):
@@ -175,6 +179,12 @@ class Texts(Planted):
         self.changed("zh_CN", Buy="")
         self.expect("texts", 'zh_CN.ts: "Buy" of ZrLow has no translation')
 
+    def test_plugin_brings_its_own(self):
+        self.write("plugins/depth/ZrDepth.cpp", 'class ZrDepth { void f() { tr("Bid"); } };\n')
+        for language in ("en", "zh_CN"):
+            self.file("plugins/depth/i18n/depth", language, {})
+        self.expect("texts", 'depth_en.ts: misses "Bid" of ZrDepth', 'depth_zh_CN.ts: misses "Bid" of ZrDepth')
+
     def test_chinese_in_english(self):
         self.changed("en", **{"\u786e\u8ba4": ""})
         self.expect("texts", "has no translation")
@@ -182,7 +192,8 @@ class Texts(Planted):
 
 class Report(unittest.TestCase):
     GOOD = {"seconds": 10.0, "messages_in": 5, "messages_lost": 0, "rows": 1, "updates_applied": 4, "frames": 3, "cpu_seconds": 1,
-            "rss_mb": 90, "feed_to_model_us": {"p50": 1, "p99": 2, "max": 3}, "feed_to_pixel_us": {"p50": 1, "p99": 2, "max": 3}}
+            "rss_mb": 90, "feed_to_model_us": {"p50": 1, "p99": 2, "max": 3}, "feed_to_pixel_us": {"p50": 1, "p99": 2, "max": 3},
+            "plugins": [{"id": "blotter", "instance": "desk#blotter#_0", "rows": 1}]}
 
     def complaints(self, **changes):
         return list(importlib.import_module("check_report").complaints(json.loads(json.dumps({**self.GOOD, **changes}))))
@@ -195,6 +206,12 @@ class Report(unittest.TestCase):
 
     def test_nothing_painted(self):
         self.assertEqual(self.complaints(frames=0), ["frames is zero: nothing ran"])
+
+    def test_no_plugin(self):
+        self.assertEqual(self.complaints(plugins=[]), ["plugins is missing or empty: none was opened"])
+
+    def test_plugin_without_rows(self):
+        self.assertEqual(self.complaints(plugins=[{"id": "a", "instance": "desk#a#_0", "rows": 0}]), ["desk#a#_0 has no rows"])
 
     def test_missing_time(self):
         self.assertEqual(self.complaints(feed_to_pixel_us={"p50": 1, "max": 3}), ["feed_to_pixel_us.p99 is missing or no number"])

@@ -17,8 +17,8 @@ QVariant ProbeCall::value(const QString &field) const
     return reader.GetValue(field, QVariant());
 }
 
-PresenterProbe::PresenterProbe(const QString &pid, IMessageInterface::ThreadType type)
-    : ZrPresenterClass(pid, nullptr, type)
+PresenterProbe::PresenterProbe(const QString &pid, IMessageInterface::ThreadType type, QObject *plugin)
+    : ZrPresenterClass(pid, plugin, type)
 {
 }
 

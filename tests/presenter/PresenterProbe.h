@@ -31,7 +31,7 @@ struct ProbeCall
 class PresenterProbe : public ZrPresenterClass
 {
 public:
-    PresenterProbe(const QString &pid, IMessageInterface::ThreadType type);
+    PresenterProbe(const QString &pid, IMessageInterface::ThreadType type, QObject *plugin = nullptr);
     ~PresenterProbe() override;
 
     void ProcMsg(QString pid, QVariant msgType, QVariant msg) override;

@@ -1,4 +1,4 @@
-#include "ZrTableCandidates.h"
+#include "ZrDistinctCells.h"
 #include "ZrTableFixture.h"
 #include "ZrTestMain.h"
 
@@ -322,7 +322,7 @@ private slots:
         for (const QVariant &value : values)
             rows.append({{0, {{"256", value}}}});
         QVariantList found;
-        for (const ItemRoleMap &cell : ZrTableCandidates::distinctCells(rows, 0))
+        for (const ItemRoleMap &cell : ZrDistinctCells::ofColumn(rows, 0))
             found.append(cell.value("256"));
         QCOMPARE(found, expected);
     }
@@ -333,8 +333,7 @@ private slots:
         const ItemRoleMap priced = {{"256", 5}};
         const RecordDataList rows{{{0, coloured}},      {{0, priced}}, {{0, coloured}},
                                   {{0, ItemRoleMap()}}, {{0, priced}}, {{0, ItemRoleMap()}}};
-        QCOMPARE(ZrTableCandidates::distinctCells(rows, 0),
-                 (QList<ItemRoleMap>{coloured, priced, ItemRoleMap()}));
+        QCOMPARE(ZrDistinctCells::ofColumn(rows, 0), (QList<ItemRoleMap>{coloured, priced, ItemRoleMap()}));
     }
 
     void candidatesAndFilterDataAreReachedThroughTheFields()

@@ -7,6 +7,7 @@
 #include "ZrViewTestKit.h"
 
 #include <QtCore/QTemporaryDir>
+#include <QtWidgets/QDialog>
 #include <QtWidgets/QLabel>
 
 /// The members of the facade that hand on to a part, and the little that they add.
@@ -385,15 +386,13 @@ private slots:
     {
         ZrTableView view;
         kit::setUp(&view, 0, 3);
-        qRegisterMetaType<ZrHeaderView *>();
-        QSignalSpy spy(view.getPrivate(), &ZrTableViewPrivate::signalFilterRequested);
         view.getPrivate()->openFilter(view.getZrTableHorizontalHeader(), 1, QRect(1, 2, 3, 4));
-        QCOMPARE(spy.count(), 0);
+        QVERIFY(!view.findChild<QDialog *>());
         kit::fill(&view, 1, 3);
+        QTest::ignoreMessage(QtWarningMsg, "This plugin does not support raise()");
         view.getPrivate()->openFilter(view.getZrTableHorizontalHeader(), 1, QRect(1, 2, 3, 4));
-        QCOMPARE(spy.count(), 1);
-        QCOMPARE(spy.first().at(1).toInt(), 1);
-        QCOMPARE(spy.first().at(2).toRect(), QRect(1, 2, 3, 4));
+        QVERIFY(view.findChild<QDialog *>());
+        QVERIFY(view.findChild<QDialog *>()->isVisible());
     }
 
     // --- Look ---

@@ -52,6 +52,29 @@
     </message>
 </context>
 <context>
+    <name>ZrDialog</name>
+    <message>
+        <source>是否关闭</source>
+        <translation>Close?</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确认</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
     <name>ZrHelpMark</name>
     <message>
         <source>Help</source>
@@ -160,6 +183,32 @@
     </message>
     <message>
         <source>Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrViewFilterWidget</name>
+    <message>
+        <source>Search box</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrPluginBaseWidget</name>
+    <message>
+        <source>Plugin hasn&apos;t been initialized. Please do not close!</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -52,6 +52,29 @@
     </message>
 </context>
 <context>
+    <name>ZrDialog</name>
+    <message>
+        <source>是否关闭</source>
+        <translation>是否关闭</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>刷新</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>确认</source>
+        <translation>确认</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
     <name>ZrHelpMark</name>
     <message>
         <source>Help</source>
@@ -161,6 +184,32 @@
     <message>
         <source>Error</source>
         <translation>错误</translation>
+    </message>
+</context>
+<context>
+    <name>ZrViewFilterWidget</name>
+    <message>
+        <source>Search box</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+</context>
+<context>
+    <name>ZrPluginBaseWidget</name>
+    <message>
+        <source>Plugin hasn&apos;t been initialized. Please do not close!</source>
+        <translation>插件尚未初始化完成，请勿关闭！</translation>
     </message>
 </context>
 </TS>
