@@ -1,5 +1,4 @@
 // The order-book ladder: a paint beside the bare drawing of the same, and what a busy book costs the thread.
-#include "ZrBalanceColor.h"
 #include "ZrBench.h"
 #include "ZrBenchGrids.h"
 #include "ZrReferenceHost.h"
@@ -8,6 +7,7 @@
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QPainter>
 #include <QtWidgets/QApplication>
+#include <zrdatabase/CDataBase.h>
 
 namespace {
 constexpr int WidthPx = 400;
@@ -73,6 +73,14 @@ protected:
     }
 };
 
+QColor balanceColor()
+{
+    QColor color(CDataBase::GetInstance()->GetStaticCfgValue(QStringLiteral("DefaultMasterColorInfo"),
+                                                             QStringLiteral("banlanceColor_dark")));
+    color.setAlpha(200);
+    return color;
+}
+
 /// One step of a drawing: a filled shape, or a text.
 struct Step
 {
@@ -92,7 +100,7 @@ public:
     BareDrawing(const ZrSecurityAskBidPanel &like, QWidget *parent)
         : QWidget(parent)
         , m_like(like)
-        , m_balance(ZrBalanceColor::current())
+        , m_balance(balanceColor())
         , m_rowFont(fontOf(QStringLiteral("微软雅黑"), like.painterFont()))
         , m_levelFont(fontOf(QStringLiteral("微软雅黑"), like.painterFont() - 1))
         , m_currentFont(fontOf(QApplication::font().family(), like.painterFont()))
