@@ -220,6 +220,7 @@ public:
         m_ladder->resize(WidthPx, HeightPx);
         m_window.resize(2 * WidthPx, HeightPx);
         m_window.show();
+        m_ladder->setCurrentMargins(12);
         m_ladder->setCodePrevClose(20.0);
         m_ladder->setLastPriceInfo(last());
         for (int number = 0; number < Books; ++number)

@@ -9,8 +9,8 @@ constexpr int FullRows = 20;
 constexpr int BestSeller = 9; // its row; the buyers follow
 constexpr int TickCents = 1;
 constexpr int LastCents = 2235;
-constexpr QSize TenLevels(ZrShowcaseGrid::LeastPx + ZrShowcaseGrid::StepPx, 508);
-constexpr QSize FiveLevels(ZrShowcaseGrid::LeastPx + ZrShowcaseGrid::StepPx, 288);
+constexpr QSize TenLevels(ZrShowcaseGrid::LeastPx + ZrShowcaseGrid::StepPx, 400);
+constexpr QSize FiveLevels(ZrShowcaseGrid::LeastPx + ZrShowcaseGrid::StepPx, 220);
 
 QString price(int cents)
 {
@@ -38,7 +38,9 @@ ZrSecurityAskBidPanel *make(const ZrAskBidLevels &levels, int count = 10)
     panel->setFixedSize(count == 5 ? FiveLevels : TenLevels);
     ZrSecurityAskBidData last;
     last.price = price(LastCents);
-    last.volumeText = QStringLiteral("1200");
+    // The blank, which never breaks, keeps the digits off the edge: the place of this text ends a margin
+    // beyond it.
+    last.volumeText = QStringLiteral("1200\u00a0");
     panel->setCodePrevClose((LastCents - 2 * TickCents) / 100.0);
     panel->setLastPriceInfo(last);
     panel->setAskBidPricesCounts(count);
@@ -91,7 +93,7 @@ ZrSecurityAskBidPanel *withLongNumbers()
     ZrAskBidLevels levels = book(20000);
     for (ZrSecurityAskBidData &level : levels)
         level.price.prepend(QStringLiteral("1234"));
-    return make(levels, 5);
+    return make(levels);
 }
 } // namespace
 
@@ -107,12 +109,13 @@ ZrShowcasePage *zrMakeSecurityAskBidPage(QWidget *parent)
     page->addSample(ZrShowcase::tr("Buyer selected"), selected(11));
     page->addPicture(
         ZrShowcase::tr("Hover"), [] { return make(book()); }, ZrShowcasePage::State::Hover);
+    page->beginRow(ZrShowcase::tr("Contents"));
     page->addSample(ZrShowcase::tr("Nobody sells"), withoutSellers());
     page->addSample(ZrShowcase::tr("Before any data"), fresh());
+    page->addSample(ZrShowcase::tr("Long numbers"), withLongNumbers());
     page->beginRow(ZrShowcase::tr("Five levels"));
     page->addSample(ZrShowcase::tr("Normal"), make(book(), 5));
     page->addSample(ZrShowcase::tr("Chinese numerals"), withNumerals());
     page->addSample(ZrShowcase::tr("Line in place of the band"), withLine());
-    page->addSample(ZrShowcase::tr("Long numbers"), withLongNumbers());
     return page;
 }

@@ -18,12 +18,15 @@ void send(QWidget *widget, QEvent::Type type, const QPoint &at, Qt::MouseButton 
 }
 } // namespace
 
-LadderScene::LadderScene()
+LadderScene::LadderScene(Margins margins)
     : m_window(new QWidget)
     , m_panel(new ZrSecurityAskBidPanel(m_window.get()))
 {
     m_window->resize(widthPx, heightPx);
     m_panel->resize(widthPx, heightPx);
+    m_panel->ensurePolished(); // the skin's margin comes first
+    if (margins == Fixed)
+        m_panel->setCurrentMargins(marginPx);
     m_panel->setCodeLastAskBidInfo(book());
     m_panel->setLastPriceInfo(last());
     m_panel->setCodePrevClose(20.0);

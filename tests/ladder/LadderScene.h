@@ -7,7 +7,7 @@
 
 /// A window with a ladder on it, as its user finds it: 400 by 600 px, a full book, no selection changed yet.
 ///
-/// Rows are 27 px high and columns 114 px wide; the margin is 12 px.
+/// Rows are 27 px high and columns 114 px wide; the margin is 12 px, unless it is left to the skin.
 class LadderScene
 {
 public:
@@ -17,7 +17,9 @@ public:
     static constexpr int columnPx = 114;
     static constexpr int marginPx = 12;
 
-    LadderScene();
+    enum Margins { Fixed, OfTheSkin };
+
+    explicit LadderScene(Margins margins = Fixed);
     ~LadderScene();
 
     ZrSecurityAskBidPanel *panel() const { return m_panel; }

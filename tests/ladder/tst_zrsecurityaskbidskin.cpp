@@ -53,7 +53,7 @@ void tst_ZrSecurityAskBidSkin::theSheetSetsEveryColour()
 {
     QFETCH(QString, skin);
     QVERIFY(m_host->host.setSkin(skin));
-    LadderScene scene;
+    LadderScene scene(LadderScene::OfTheSkin);
     const ZrSecurityAskBidPanel &panel = *scene.panel();
     const QList<QColor> colors = {panel.panelBgColor(),      panel.upColor(),  panel.downColor(),
                                   panel.lastPriceColor(),    panel.buyColor(), panel.sellColor(),
@@ -68,7 +68,7 @@ void tst_ZrSecurityAskBidSkin::allTextsCanBeRead()
 {
     QFETCH(QString, skin);
     QVERIFY(m_host->host.setSkin(skin));
-    LadderScene scene;
+    LadderScene scene(LadderScene::OfTheSkin);
     const ZrSecurityAskBidPanel &panel = *scene.panel();
     const QColor ground = panel.panelBgColor();
     const QColor mark = panel.brushColor().color();
@@ -94,7 +94,7 @@ void tst_ZrSecurityAskBidSkin::badgesHaveTheirSidesColour()
 {
     QFETCH(QString, skin);
     QVERIFY(m_host->host.setSkin(skin));
-    LadderScene scene;
+    LadderScene scene(LadderScene::OfTheSkin);
     scene.panel()->setCurIndex(-1);
     const QImage image = scene.panel()->grab().toImage();
     QVERIFY(pixelsOf(image.copy(0, 0, 400, 270), scene.panel()->sellColor()) > 1000);
@@ -108,11 +108,11 @@ void tst_ZrSecurityAskBidSkin::anotherSkinLooksLikeAFreshStartInIt()
     QFETCH(QString, skin);
     QFETCH(QString, other);
     QVERIFY(m_host->host.setSkin(other));
-    LadderScene changed;
+    LadderScene changed(LadderScene::OfTheSkin);
     changed.panel()->grab();
     QVERIFY(m_host->host.setSkin(skin));
     const QImage switched = changed.panel()->grab().toImage();
-    LadderScene fresh;
+    LadderScene fresh(LadderScene::OfTheSkin);
     QCOMPARE(switched, fresh.panel()->grab().toImage());
 }
 
