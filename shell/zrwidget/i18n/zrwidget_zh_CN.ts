@@ -212,4 +212,22 @@
         <translation>插件尚未初始化完成，请勿关闭！</translation>
     </message>
 </context>
+<context>
+    <name>ZrCompleter</name>
+    <message>
+        <source>Securities</source>
+        <translation>证券</translation>
+    </message>
+</context>
+<context>
+    <name>ZrSearchBox</name>
+    <message>
+        <source>Tips</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>The security id is not supported!</source>
+        <translation>不支持该证券代码！</translation>
+    </message>
+</context>
 </TS>
