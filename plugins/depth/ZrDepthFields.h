@@ -7,8 +7,6 @@
 /// Shape: a plugin is built without its client, so both sides hold the names; a test compares them.
 /// Units: prices in the currency of the venue, times in ms since 1970-01-01 UTC.
 namespace ZrDepthFields {
-/// Counts all messages of one feed from 0.
-inline const QString seqNo = QStringLiteral("SeqNo");
 inline const QString previousClose = QStringLiteral("PreviousClose");
 inline const QString lastPrice = QStringLiteral("LastPrice");
 inline const QString lastQty = QStringLiteral("LastQty");

@@ -15,7 +15,7 @@ constexpr int TenLevels = 10;
 constexpr int FiveLevels = 5;
 constexpr int LeastRowPx = 17; // a line of text and some room
 constexpr int LeastWidthPx = 220;
-constexpr int MostWidthPx = 420; // of the ladder: wider, and nobody reads along a row any more
+constexpr int MostWidthPx = 424; // of the ladder: wider, and nobody reads along a row any more
 constexpr int SearchWidthPx = 110;
 } // namespace
 
@@ -28,6 +28,7 @@ ZrDepthPanel::ZrDepthPanel(QWidget *parent)
     , m_percent(addLabel("changePercent", tr("Change in percent")))
     , m_ladder(new ZrSecurityAskBidPanel(this))
 {
+    setAttribute(Qt::WA_StyledBackground); // the plugin's sheet has a ground for it
     m_search->setPlaceholderText(tr("Code"));
     m_search->setAccessibleName(tr("Security"));
     m_search->setFixedWidth(SearchWidthPx);

@@ -31,6 +31,7 @@ private slots:
     void aClickedLevelIsToldToTheGroup();
     void theLatestPriceHasNoSide();
     void theSkinsFilesAreRead();
+    void itStandsOnTheLaddersGround();
     void aLayoutBringsTheSecurityBack();
     void itMayGoWhileMessagesWait();
 
@@ -233,6 +234,16 @@ void tst_ZrDepthPlugin::theSkinsFilesAreRead()
     QCOMPARE(plugin->getPluginWidgetPropety(PluginPropety::PLUGINWIDGET_TITLEICON).toString(),
              QStringLiteral("plugins/depth/depth.svg"));
     QVERIFY(plugin->styleSheet().contains(QLatin1String("lastPrice")));
+}
+
+void tst_ZrDepthPlugin::itStandsOnTheLaddersGround()
+{
+    auto *const plugin = make<ZrDepthPlugin>("depth");
+    for (const char *const skin : {"light", "dark"}) {
+        QVERIFY(m_host.setSkin(QLatin1String(skin)));
+        const QImage image = plugin->panel()->grab().toImage();
+        QCOMPARE(image.pixelColor(2, image.height() - 3), plugin->panel()->ladder()->panelBgColor());
+    }
 }
 
 void tst_ZrDepthPlugin::aLayoutBringsTheSecurityBack()

@@ -161,7 +161,6 @@ void tst_ZrDepthQuote::changesHaveTheirSign()
 
 void tst_ZrDepthQuote::theNamesAreThoseOfTheClient()
 {
-    QCOMPARE(Fields::seqNo, ZrClientFields::seqNo);
     QCOMPARE(Fields::previousClose, ZrClientFields::previousClose);
     QCOMPARE(Fields::lastPrice, ZrClientFields::lastPrice);
     QCOMPARE(Fields::lastQty, ZrClientFields::lastQty);
