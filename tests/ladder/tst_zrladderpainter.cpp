@@ -38,6 +38,7 @@ private slots:
     void anySizeOfFontIsPainted_data();
     void anySizeOfFontIsPainted();
     void anEndlessTextIsCut();
+    void outsideTextIsDrawnAsItStands();
     void thePainterIsLeftAsItWas();
 
 private:
@@ -463,6 +464,23 @@ void tst_ZrLadderPainter::anEndlessTextIsCut()
     const QList<PaintedThing> texts = m_recorder->texts();
     for (const PaintedThing &text : texts)
         QVERIFY(text.text.size() < 1000);
+}
+
+void tst_ZrLadderPainter::outsideTextIsDrawnAsItStands()
+{
+    const QString markup = QStringLiteral("<b>&1</b>");
+    ZrAskBidLevels levels = LadderScene::book();
+    levels[0].price = markup; // no number either: the book marks it as missing
+    m_state.book.setLevels(levels);
+    m_state.last.price = markup;
+    m_state.last.volumeText = markup;
+    paint(false);
+    QString all;
+    const QList<PaintedThing> texts = m_recorder->texts();
+    for (const PaintedThing &text : texts)
+        all += text.text;
+    QCOMPARE(all.count(markup), 2);
+    QCOMPARE(texts.value(2).text, QStringLiteral("—"));
 }
 
 void tst_ZrLadderPainter::thePainterIsLeftAsItWas()
