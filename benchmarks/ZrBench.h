@@ -78,6 +78,7 @@ ZrBenchCases mapBenches();
 ZrBenchCases busBenches();
 ZrBenchCases editorBenches();
 ZrBenchCases comboBenches();
+ZrBenchCases ladderBenches();
 ZrBenchCases textBenches();
 ZrBenchCases filterBenches();
 ZrBenchCases searchBenches();

@@ -3,9 +3,8 @@
 /// Keeps a window without a display quiet.
 ///
 /// The offscreen platform warns of each size hint that it cannot pass on to a window manager, of each window
-/// that it cannot raise, of each dialog that becomes a part of a page, and of each popup that it cannot give
-/// the keyboard. Nobody can act on that, and it
-/// would hide what a run has to say. All other lines pass.
+/// that it cannot raise, of each popup that it cannot give the keyboard, and of each dialog that becomes a
+/// part of a page. Nobody can act on that, and it would hide what a run has to say. All other lines pass.
 class ZrQuietPlatform
 {
 public:

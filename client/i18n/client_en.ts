@@ -815,6 +815,46 @@
         <source>Finds a security by a few letters or digits of its code or search key.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The order book of one security: levels to point at, to select and to step through.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ten levels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Five levels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seller selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Buyer selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nobody sells</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Before any data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chinese numerals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line in place of the band</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Long numbers</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ZrStatusLine</name>

@@ -815,6 +815,46 @@
         <source>Finds a security by a few letters or digits of its code or search key.</source>
         <translation>输入代码或检索简拼的几个字母或数字即可找到证券。</translation>
     </message>
+    <message>
+        <source>The order book of one security: levels to point at, to select and to step through.</source>
+        <translation>一只证券的盘口：各档可指向、选中并逐档移动。</translation>
+    </message>
+    <message>
+        <source>Ten levels</source>
+        <translation>十档</translation>
+    </message>
+    <message>
+        <source>Five levels</source>
+        <translation>五档</translation>
+    </message>
+    <message>
+        <source>Seller selected</source>
+        <translation>选中卖档</translation>
+    </message>
+    <message>
+        <source>Buyer selected</source>
+        <translation>选中买档</translation>
+    </message>
+    <message>
+        <source>Nobody sells</source>
+        <translation>无卖盘</translation>
+    </message>
+    <message>
+        <source>Before any data</source>
+        <translation>尚无数据</translation>
+    </message>
+    <message>
+        <source>Chinese numerals</source>
+        <translation>中文数字</translation>
+    </message>
+    <message>
+        <source>Line in place of the band</source>
+        <translation>以细线代替最新价</translation>
+    </message>
+    <message>
+        <source>Long numbers</source>
+        <translation>长数字</translation>
+    </message>
 </context>
 <context>
     <name>ZrStatusLine</name>

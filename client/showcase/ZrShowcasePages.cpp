@@ -35,6 +35,9 @@ QList<ZrShowcaseEntry> ZrShowcasePages::all()
         entry("date-edit", "ZrDateEdit", "editors", zrMakeDateEditPage),
         entry("shortcut-key", "ZrShortCutKeyWidget", "editors", zrMakeShortCutKeyWidgetPage),
 
+        // --- market depth ---
+        entry("security-ask-bid", "ZrSecurityAskBidPanel", "market depth", zrMakeSecurityAskBidPage),
+
         // --- combos ---
         entry("multi-combo", "ZrMultiComboBox", "combos", zrMakeMultiComboPage),
         entry("linkage-combo", "ZrLinkageCombox", "combos", zrMakeLinkageComboPage),

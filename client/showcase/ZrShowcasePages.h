@@ -50,6 +50,9 @@ ZrShowcasePage *zrMakeButtonGroupWidgetPage(QWidget *parent);
 ZrShowcasePage *zrMakeDateEditPage(QWidget *parent);
 ZrShowcasePage *zrMakeShortCutKeyWidgetPage(QWidget *parent);
 
+// --- market depth ---
+ZrShowcasePage *zrMakeSecurityAskBidPage(QWidget *parent);
+
 // --- combos ---
 ZrShowcasePage *zrMakeMultiComboPage(QWidget *parent);
 ZrShowcasePage *zrMakeLinkageComboPage(QWidget *parent);
