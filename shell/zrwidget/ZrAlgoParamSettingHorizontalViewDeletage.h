@@ -5,6 +5,7 @@
 #include <QtCore/QList>
 #include <QtCore/QMap>
 #include <QtCore/QVariantMap>
+#include <QtGui/QPixmap>
 
 class ZrParamSheet;
 
@@ -44,5 +45,9 @@ public:
     void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override;
 
 private:
-    void closeEditor() const;
+    void closeOpenEditor() const;
+    QPixmap deletePicture() const;
+
+    mutable QPixmap m_picture;     // kept between paints
+    mutable QString m_pictureSkin; // the skin that it is of
 };

@@ -66,7 +66,7 @@ private:
     void watch(QWidget *editor);
     QWidget *editor(const QString &paramId) const;
     QWidget *editorWithFocus() const;
-    void focusNextOf(const QWidget *editor);
+    void focusNextOf(QWidget *editor);
 
     QList<QPointer<QWidget>> m_focusOrder;
     QMap<QString, QPointer<QWidget>> m_editors; // by parameter id

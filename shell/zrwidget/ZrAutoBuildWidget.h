@@ -52,8 +52,9 @@ public:
 private:
     Q_DISABLE_COPY(ZrAutoBuildWidget)
     void replaceContent();
-    void addRow(QVBoxLayout *rows, const QList<QVariantMap> &records);
-    QBoxLayout *makePair(const QVariantMap &record);
+    using Editors = QMap<QString, QWidget *>; // by parameter id
+    void addRow(QVBoxLayout *rows, const QList<QVariantMap> &records, const Editors &editors);
+    QBoxLayout *makePair(const QVariantMap &record, QWidget *editor);
 
     QWidget *m_content = nullptr; // our child, replaced at each build
     QList<QVariantMap> m_records; // as last given
