@@ -79,12 +79,12 @@ void ZrAlgoParamSettingHorizontalViewDeletage::setModelData(QWidget *editor, QAb
     const QVariant value = ZrAutoBuildSubWidgetObject::getWidgetData(record, editor, Qt::UserRole);
     const QPersistentModelIndex place(index);
     if (record.contains(Constants::STRATEGYPARAM_WIDGETTYPE)) {
-        const QVariant shown =
-            ZrAutoBuildSubWidgetObject::getWidgetData(record, editor, Qt::DisplayRole);
+        const QVariant shown = ZrAutoBuildSubWidgetObject::getWidgetData(record, editor, Qt::DisplayRole);
         model->setData(place, shown, Qt::DisplayRole);
         model->setData(place, value, Qt::UserRole);
     }
-    if (settingPrivate && record.value(Constants::STRATEGYPARAM_EXTRAACTION).toString() == QLatin1String("addrow"))
+    if (settingPrivate &&
+        record.value(Constants::STRATEGYPARAM_EXTRAACTION).toString() == QLatin1String("addrow"))
         settingPrivate->addEmptyRow(viewId);
     ZrParamRowUpdate(id, value, paramRecords).applyTo(model, place);
     closeOpenEditor();

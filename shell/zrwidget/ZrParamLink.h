@@ -22,7 +22,8 @@ struct ZrParamOption
 class ZRWIDGET_PRIVATE_EXPORT ZrParamLink
 {
 public:
-    /// `linkedValue` is the other parameter's present value as a text; of no matter to who depends on nothing.
+    /// `linkedValue` is the other parameter's present value as a text; of no matter to who depends on
+    /// nothing.
     ZrParamLink(const QVariantMap &record, const QString &linkedValue);
     /// The same, with the present values of parameters by id.
     static ZrParamLink among(const QVariantMap &record, const QVariantMap &presentValues);

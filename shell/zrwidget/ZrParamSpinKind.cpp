@@ -8,8 +8,8 @@
 namespace {
 constexpr double MostDouble = 1152921504606846976.0; // 2 to the 60th
 constexpr int MostInt = 0xFFFFFFF;
-// The range of a 64-bit number has no place in a spin box of ints, so the record tells it. One that tells none
-// is left with nothing to choose: required, it shows that the description is wrong.
+// The range of a 64-bit number has no place in a spin box of ints, so the record tells it. One that tells
+// none is left with nothing to choose: required, it shows that the description is wrong.
 constexpr int MostInt64 = -1;
 constexpr int MostTenfolds = 101; // beyond that a step is no decimal fraction
 
