@@ -57,7 +57,12 @@ class tst_ZrAutoBuildSubWidgetObject : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase() { QVERIFY(m_host.isReady()); }
+    void initTestCase()
+    {
+        m_quiet = std::make_unique<QuietPlatform>();
+        QVERIFY(m_host.isReady());
+    }
+    void cleanupTestCase() { m_quiet.reset(); }
 
     // --- one editor ---
 
@@ -356,7 +361,7 @@ private slots:
 
 private:
     FormHost m_host;
-    QuietPlatform m_quiet;
+    std::unique_ptr<QuietPlatform> m_quiet; // once the test's own handler is in place
 };
 
 ZR_TEST_MAIN(tst_ZrAutoBuildSubWidgetObject)
