@@ -355,7 +355,8 @@ private slots:
         QTest::keyClicks(box, "600001"); // the only one: picked by itself
         QTRY_COMPARE(told.count(), 1);
         QCOMPARE(told.takeFirst(), QVariantList{Vexlor_Fields::Security::symbol});
-        QVERIFY(form.edit("b")->hasFocus());
+        // The list that was open may still be giving the keyboard back.
+        QCOMPARE(form.window.focusWidget(), form.edit("b"));
         QCOMPARE(form.object.getAutoBuildData().value("target"), QVariant("600001.SH"));
     }
 
