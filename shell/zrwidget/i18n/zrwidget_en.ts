@@ -163,4 +163,22 @@
         <translation type="unfinished"></translation>
     </message>
 </context>
+<context>
+    <name>ZrCompleter</name>
+    <message>
+        <source>Securities</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZrSearchBox</name>
+    <message>
+        <source>Tips</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The security id is not supported!</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
 </TS>

@@ -163,4 +163,22 @@
         <translation>错误</translation>
     </message>
 </context>
+<context>
+    <name>ZrCompleter</name>
+    <message>
+        <source>Securities</source>
+        <translation>证券</translation>
+    </message>
+</context>
+<context>
+    <name>ZrSearchBox</name>
+    <message>
+        <source>Tips</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>The security id is not supported!</source>
+        <translation>不支持该证券代码！</translation>
+    </message>
+</context>
 </TS>
