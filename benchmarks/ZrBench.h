@@ -78,4 +78,5 @@ ZrBenchCases mapBenches();
 ZrBenchCases busBenches();
 ZrBenchCases editorBenches();
 ZrBenchCases comboBenches();
+ZrBenchCases formBenches();
 ZrBenchCases textBenches();

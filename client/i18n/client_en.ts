@@ -908,6 +908,70 @@
         <source>Tip</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Limit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Market</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Price type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brokers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Passive orders only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Continuous trading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A form that a strategy&apos;s description tells: names and editors in rows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New strategy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Running strategy: some parameters can still be changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Strategy that has ended</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ZrStatusLine</name>

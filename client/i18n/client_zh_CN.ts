@@ -908,6 +908,70 @@
         <source>Tip</source>
         <translation>提示</translation>
     </message>
+    <message>
+        <source>Limit</source>
+        <translation>限价</translation>
+    </message>
+    <message>
+        <source>Market</source>
+        <translation>市价</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>账户</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>交易阶段</translation>
+    </message>
+    <message>
+        <source>Price type</source>
+        <translation>价格类型</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>开始时间</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>有效期至</translation>
+    </message>
+    <message>
+        <source>Brokers</source>
+        <translation>经纪商</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Passive orders only</source>
+        <translation>仅被动委托</translation>
+    </message>
+    <message>
+        <source>Continuous trading</source>
+        <translation>连续竞价</translation>
+    </message>
+    <message>
+        <source>A form that a strategy&apos;s description tells: names and editors in rows.</source>
+        <translation>由策略描述生成的表单：名称和编辑框按行排列。</translation>
+    </message>
+    <message>
+        <source>New strategy</source>
+        <translation>新建策略</translation>
+    </message>
+    <message>
+        <source>Filled</source>
+        <translation>已填写</translation>
+    </message>
+    <message>
+        <source>Running strategy: some parameters can still be changed</source>
+        <translation>运行中的策略：部分参数仍可修改</translation>
+    </message>
+    <message>
+        <source>Strategy that has ended</source>
+        <translation>已结束的策略</translation>
+    </message>
 </context>
 <context>
     <name>ZrStatusLine</name>

@@ -36,5 +36,8 @@ QList<ZrShowcaseEntry> ZrShowcasePages::all()
         // --- combos ---
         entry("multi-combo", "ZrMultiComboBox", "combos", zrMakeMultiComboPage),
         entry("linkage-combo", "ZrLinkageCombox", "combos", zrMakeLinkageComboPage),
+
+        // --- forms ---
+        entry("auto-build", "ZrAutoBuildWidget", "forms", zrMakeAutoBuildWidgetPage),
     };
 }

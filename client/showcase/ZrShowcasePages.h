@@ -51,3 +51,6 @@ ZrShowcasePage *zrMakeShortCutKeyWidgetPage(QWidget *parent);
 // --- combos ---
 ZrShowcasePage *zrMakeMultiComboPage(QWidget *parent);
 ZrShowcasePage *zrMakeLinkageComboPage(QWidget *parent);
+
+// --- forms ---
+ZrShowcasePage *zrMakeAutoBuildWidgetPage(QWidget *parent);

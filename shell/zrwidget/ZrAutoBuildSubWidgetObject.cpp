@@ -41,7 +41,12 @@ QWidget *ZrAutoBuildSubWidgetObject::createWidget(const QVariantMap &record, QWi
                                                   QVariantMap linkValues)
 {
     const ZrParamKind *const kind = kindOf(record);
-    return kind ? kind->make(record, parent, ZrParamLink::among(record, linkValues)) : nullptr;
+    QWidget *const editor =
+        kind ? kind->make(record, parent, ZrParamLink::among(record, linkValues)) : nullptr;
+    // No label beside it says it to a screen reader, in a cell least of all.
+    if (editor)
+        editor->setAccessibleName(record.value(Constants::STRATEGYPARAM_PARAMNAME).toString());
+    return editor;
 }
 
 // Empty is tested before the role: required. So what several ticks store, a list, is invalid here, for a list

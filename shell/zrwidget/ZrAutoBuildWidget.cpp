@@ -35,6 +35,14 @@ void add(QBoxLayout *layout, QWidget *widget)
         layout->addWidget(widget);
 }
 
+/// A row of the form, which takes its place and spacing also when no record stands in it: the toolkit would
+/// leave an empty one out.
+class FormRow : public QHBoxLayout
+{
+public:
+    bool isEmpty() const override { return false; }
+};
+
 /// The records of the form's rows, by row number.
 QMap<int, QList<QVariantMap>> byRow(const QList<QVariantMap> &records)
 {
@@ -94,7 +102,7 @@ void ZrAutoBuildWidget::replaceContent()
 
 void ZrAutoBuildWidget::addRow(QVBoxLayout *rows, const QList<QVariantMap> &records, const Editors &editors)
 {
-    auto *const row = new QHBoxLayout;
+    auto *const row = new FormRow;
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(m_rowSpacingPx);
     for (const QVariantMap &record : records) {
@@ -112,8 +120,6 @@ QBoxLayout *ZrAutoBuildWidget::makePair(const QVariantMap &record, QWidget *edit
     auto *const label = new ZrLabel(boxComesFirst ? name : name + QStringLiteral("："), m_content);
     fixWidth(label, record, Constants::STRATEGYPARAM_NAMEWIDTH);
     fixWidth(editor, record, Constants::STRATEGYPARAM_WIDGETWIDTH);
-    if (editor)
-        editor->setAccessibleName(name);
 
     auto *const pair = new QHBoxLayout;
     pair->setContentsMargins(0, 0, 0, 0);

@@ -39,5 +39,5 @@ void ZrParamDateTimeKind::write(QWidget *widget, const QVariant &value, bool isE
         return;
     setText(edit, value);
     if (!isEditable)
-        edit->setReadOnly(true);
+        lock(edit);
 }

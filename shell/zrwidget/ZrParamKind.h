@@ -4,6 +4,7 @@
 
 #include <QtCore/QVariantMap>
 
+class QAbstractSpinBox;
 class QWidget;
 class ZrParamLink;
 
@@ -27,4 +28,7 @@ public:
     /// Takes on what `link` tells after the other parameter changed. Here: the rule of a line edit, which
     /// some editors of other types are too.
     virtual void relink(const QVariantMap &record, QWidget *widget, const ZrParamLink &link) const;
+
+protected:
+    static void lock(QAbstractSpinBox *box);
 };

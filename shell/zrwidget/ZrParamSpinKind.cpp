@@ -80,12 +80,12 @@ QVariant ZrParamSpinKind::read(const QWidget *widget, int) const
 
 void ZrParamSpinKind::write(QWidget *widget, const QVariant &value, bool isEditable) const
 {
-    if (auto *const box = qobject_cast<QDoubleSpinBox *>(widget))
-        box->setValue(value.toDouble());
-    else if (auto *const box = qobject_cast<QSpinBox *>(widget))
-        box->setValue(value.toInt());
-    else
-        return;
-    if (!isEditable)
-        static_cast<QAbstractSpinBox *>(widget)->setReadOnly(true);
+    auto *const fraction = qobject_cast<QDoubleSpinBox *>(widget);
+    auto *const whole = qobject_cast<QSpinBox *>(widget);
+    if (fraction)
+        fraction->setValue(value.toDouble());
+    if (whole)
+        whole->setValue(value.toInt());
+    if (!isEditable && (fraction || whole))
+        lock(static_cast<QAbstractSpinBox *>(widget));
 }

@@ -39,5 +39,5 @@ void ZrParamTimeKind::write(QWidget *widget, const QVariant &value, bool isEdita
         return;
     setText(edit, value);
     if (!isEditable)
-        edit->setReadOnly(true);
+        lock(edit);
 }

@@ -9,7 +9,8 @@
 /// Shape:     a text and a number of it are one value in two forms: editors and files give texts, users of a
 ///            sheet want the number.
 /// Threads:   any.
-/// Errors:    what is no number becomes 0, what is no truth false, as QVariant converts.
+/// Errors:    what is no number becomes 0, what is no truth false, and a number beyond its type wraps, as
+///            QVariant converts. Bounds are the editor's and the sheet's concern.
 class ZRWIDGET_PRIVATE_EXPORT ZrParamValue
 {
 public:

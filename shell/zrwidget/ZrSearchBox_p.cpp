@@ -91,9 +91,10 @@ void ZrSearchBoxPrivate::narrow(const QString &text)
         completer->popup()->setCurrentIndex(row);
         pickOnlyRow(row, text);
     }
-    // Also after a pick by search key, whose code may be of another length than what was typed.
+    // Of what stands in the field now: after a pick that is the whole code, and who deletes from it is not
+    // given it back at once.
     if (self)
-        lastTextLength = text.size();
+        lastTextLength = q()->text().size();
 }
 
 void ZrSearchBoxPrivate::listFirstRows()

@@ -5,18 +5,18 @@
 #include "ZrRoleKeys.h"
 #include "ZrTableView.h"
 
-/// A parameter table: a column for each id, the first one the key. Cells hold what is stored, and the same
+/// A parameter table: a column for each id, one of them the key. Cells hold what is stored, and the same
 /// in capitals as what is shown.
 class ParamTable
 {
 public:
-    explicit ParamTable(const QStringList &ids)
+    explicit ParamTable(const QStringList &ids, int keyColumn = 0)
         : view(&window)
     {
         HeadList heads;
         for (const QString &id : ids)
             heads.append({{HEAD_DISPLAYROLE, id + " name"}, {HEAD_USERROLE, id}});
-        view.setKeyColumn({0});
+        view.setKeyColumn({keyColumn});
         view.setHeadList(heads);
         view.resize(600, 200);
         window.resize(620, 220);

@@ -7,6 +7,8 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 
+#include <memory>
+
 namespace Security = Vexlor_Fields::Security;
 namespace UserAccount = Vexlor_Fields::UserAccount;
 using Delegate = ZrAlgoParamSettingHorizontalViewDeletage;
@@ -33,13 +35,14 @@ QVariantMap dependent()
                         form::link("side", {form::linkCase("sell", offering({{"B", "b"}}))}));
 }
 
-/// A sheet of one table whose last column is that of the actions, and whose first one is the key.
+/// A sheet of one table with one key column, whose last column is that of the actions.
 class Sheet : public ZrParamSheet
 {
 public:
-    explicit Sheet(const QList<QVariantMap> &records)
-        : table(ids(records))
+    explicit Sheet(const QList<QVariantMap> &records, int keyColumn = 0)
+        : table(ids(records), keyColumn)
         , delegate(new Delegate)
+        , m_keyColumn(keyColumn)
     {
         delegate->setParamRecords(records);
         delegate->settingPrivate = this;
@@ -60,7 +63,7 @@ public:
     void addEmptyRow(const QString &viewId) override
     {
         added.append(viewId);
-        table.view.addRecordData({{0, {{ITEM_DISPLAYROLE, ""}, {ITEM_USERROLE, " "}}}});
+        table.view.addRecordData({{m_keyColumn, {{ITEM_DISPLAYROLE, ""}, {ITEM_USERROLE, " "}}}});
     }
 
     /// Opens the editor of a cell, as the sheet does after a double click.
@@ -96,6 +99,8 @@ private:
             list.append(record.value(Constants::STRATEGYPARAM_PARAMID).toString());
         return list << QString();
     }
+
+    const int m_keyColumn;
 };
 } // namespace
 
@@ -103,7 +108,12 @@ class tst_ZrAlgoParamSettingHorizontalViewDeletage : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase() { QVERIFY(m_host.isReady()); }
+    void initTestCase()
+    {
+        m_quiet = std::make_unique<QuietPlatform>();
+        QVERIFY(m_host.isReady());
+    }
+    void cleanupTestCase() { m_quiet.reset(); }
 
     // --- editors ---
 
@@ -239,10 +249,8 @@ private slots:
         Sheet sheet({line(UserAccount::SymbolPost),
                      line(Security::symbol, Constants::VALUETYPE_STRING,
                           {{Constants::STRATEGYPARAM_EXTRAACTION, "addrow"}}),
-                     line(Security::chineseName)});
-        sheet.table.view.setKeyColumn({1});
-        sheet.table.view.deleteRow(0);
-        sheet.table.addRow({QVariant(), " "});
+                     line(Security::chineseName)},
+                    1);
         QLineEdit edit("600001.SH");
         sheet.write(&edit, 0, 1);
         QCOMPARE(sheet.table.stored(0, 0), QVariant("SH"));
@@ -378,7 +386,7 @@ private:
     }
 
     FormHost m_host;
-    QuietPlatform m_quiet;
+    std::unique_ptr<QuietPlatform> m_quiet; // once the test's own handler is in place
 };
 
 ZR_TEST_MAIN(tst_ZrAlgoParamSettingHorizontalViewDeletage)

@@ -3,11 +3,18 @@
 
 #include <QtWidgets/QLineEdit>
 
+#include <memory>
+
 class tst_ZrAlgoParamSettingVerticalViewDeletage : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase() { QVERIFY(m_host.isReady()); }
+    void initTestCase()
+    {
+        m_quiet = std::make_unique<QuietPlatform>();
+        QVERIFY(m_host.isReady());
+    }
+    void cleanupTestCase() { m_quiet.reset(); }
 
     void anEditorHasAnEdgeOfFivePixels()
     {
@@ -48,7 +55,7 @@ private slots:
 
 private:
     FormHost m_host;
-    QuietPlatform m_quiet;
+    std::unique_ptr<QuietPlatform> m_quiet; // once the test's own handler is in place
 };
 
 ZR_TEST_MAIN(tst_ZrAlgoParamSettingVerticalViewDeletage)

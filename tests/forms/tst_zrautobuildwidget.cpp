@@ -6,6 +6,8 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QVBoxLayout>
 
+#include <memory>
+
 namespace {
 QVariantMap line(const QString &id, int row, const QVariantMap &more = QVariantMap())
 {
@@ -68,7 +70,12 @@ class tst_ZrAutoBuildWidget : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase() { QVERIFY(m_host.isReady()); }
+    void initTestCase()
+    {
+        m_quiet = std::make_unique<QuietPlatform>();
+        QVERIFY(m_host.isReady());
+    }
+    void cleanupTestCase() { m_quiet.reset(); }
 
     void editorsStandInTheirRowsInListOrder()
     {
@@ -231,7 +238,7 @@ private slots:
 
 private:
     FormHost m_host;
-    QuietPlatform m_quiet;
+    std::unique_ptr<QuietPlatform> m_quiet; // once the test's own handler is in place
 };
 
 ZR_TEST_MAIN(tst_ZrAutoBuildWidget)

@@ -106,7 +106,8 @@ void tst_ZrCodeSearch::theSlotsAreFoundByName()
 {
     const QMetaObject &meta = ZRSearch::staticMetaObject;
     QCOMPARE(meta.className(), "ZRSearch");
-    for (const char *const slot : {"doneCompletion()", "preventSuggest()", "autoSuggest()", "slotRspCodeSearchs()"})
+    for (const char *const slot :
+         {"doneCompletion()", "preventSuggest()", "autoSuggest()", "slotRspCodeSearchs()"})
         QVERIFY2(meta.indexOfSlot(slot) >= 0, slot);
 }
 

@@ -33,7 +33,7 @@ private:
     QWidget *popup() const { return m_completer->popup(); }
 
     std::unique_ptr<SearchScene> m_scene;
-    QPointer<QLineEdit> m_field;         // the scene's window's
+    QPointer<QLineEdit> m_field;       // the scene's window's
     QPointer<ZrCompleter> m_completer; // the field's
 };
 
@@ -134,7 +134,7 @@ void tst_ZrCompleter::aPressOutsideIsTold()
     open();
     QVERIFY(QTest::qWaitForWindowExposed(popup()));
     const QSignalSpy away(m_completer, &ZrCompleter::completerFocusOutEvent);
-    QWidget *const to = receiver == "window" ? m_scene->window()
+    QWidget *const to = receiver == "window"  ? m_scene->window()
                         : receiver == "popup" ? popup()
                                               : static_cast<QWidget *>(m_field);
     QTest::mousePress(to, Qt::LeftButton, Qt::NoModifier, to->mapFromGlobal(m_field->mapToGlobal(at)));

@@ -1,0 +1,184 @@
+// A form made from a description: built, laid out and painted for the first time.
+#include "ZrAutoBuildWidget.h"
+#include "ZrBench.h"
+#include "ZrBenchGrids.h"
+
+#include "zrdefine/Constants.h"
+
+#include <QtCore/QFile>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QDateTimeEdit>
+#include <QtWidgets/QDoubleSpinBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QRadioButton>
+#include <QtWidgets/QVBoxLayout>
+
+#include <memory>
+
+namespace {
+constexpr int Rows = 40;
+constexpr int InRow = 5;
+constexpr double MostMs = 150; // what a user may wait for a sheet of 200 parameters
+
+/// What stands in each row, in turn: as strategies ask for them, the common ones more often.
+struct EditorType
+{
+    const QString *widgetType;
+    const QString *valueType;
+};
+
+QVector<EditorType> kinds()
+{
+    return {{&Constants::WIDGETTYPE_LINEEDIT, &Constants::VALUETYPE_DOUBLE},
+            {&Constants::WIDGETTYPE_SPINBOX, &Constants::VALUETYPE_INT},
+            {&Constants::WIDGETTYPE_COMBOBOX, &Constants::VALUETYPE_INT},
+            {&Constants::WIDGETTYPE_CHECKBOX, &Constants::VALUETYPE_BOOL},
+            {&Constants::WIDGETTYPE_TIMEEDIT, &Constants::VALUETYPE_TIME},
+            {&Constants::WIDGETTYPE_LABEL, &Constants::VALUETYPE_STRING},
+            {&Constants::WIDGETTYPE_RADIOBUTTON, &Constants::VALUETYPE_INT},
+            {&Constants::WIDGETTYPE_SPINBOX, &Constants::VALUETYPE_DOUBLE},
+            {&Constants::WIDGETTYPE_LINEEDIT, &Constants::VALUETYPE_INT},
+            {&Constants::WIDGETTYPE_DATETIME, &Constants::VALUETYPE_STRING}};
+}
+
+/// As above, and two of each hundred a box of many choices or a search box.
+EditorType kindAt(int place)
+{
+    if (place % 100 == 42)
+        return {&Constants::WIDGETTYPE_MULTICOMBOBOX, &Constants::VALUETYPE_STRING};
+    if (place % 100 == 77)
+        return {&Constants::WIDGETTYPE_ZRSEARCHBOX, &Constants::VALUETYPE_STRING};
+    const QVector<EditorType> all = kinds();
+    return all.at(place % all.size());
+}
+
+QVariantList choices()
+{
+    QVariantList options;
+    for (int number = 0; number < 3; ++number)
+        options.append(QVariantMap{{Constants::STRATEGYPARAM_DISPLAYROLE, QStringLiteral("c%1").arg(number)},
+                                   {Constants::STRATEGYPARAM_USERROLE, number}});
+    return options;
+}
+
+QList<QVariantMap> records(bool withBoxes)
+{
+    QList<QVariantMap> records;
+    for (int place = 0; place < Rows * InRow; ++place) {
+        const EditorType kind = withBoxes ? kindAt(place) : kinds().at(place % kinds().size());
+        records.append({{Constants::STRATEGYPARAM_PARAMID, QStringLiteral("p%1").arg(place)},
+                        {Constants::STRATEGYPARAM_PARAMNAME, QStringLiteral("Parameter %1").arg(place)},
+                        {Constants::STRATEGYPARAM_ROW, place / InRow + 1},
+                        {Constants::STRATEGYPARAM_WIDGETTYPE, *kind.widgetType},
+                        {Constants::STRATEGYPARAM_VALUETYPE, *kind.valueType},
+                        {Constants::STRATEGYPARAM_OPTIONS, choices()},
+                        {Constants::STRATEGYPARAM_PRECISION, 2}});
+    }
+    return records;
+}
+
+QString windowSheet()
+{
+    QFile file(QStringLiteral(ZR_BENCH_WINDOW_SHEET));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("no style sheet");
+    return QString::fromUtf8(file.readAll());
+}
+
+/// A shown window in the workstation's sheet, and the time from the first line of `build` to what is seen.
+template<typename Build>
+double buildMs(const Build &build)
+{
+    static const QString sheet = windowSheet();
+    QWidget window;
+    window.setStyleSheet(sheet);
+    auto *const column = new QVBoxLayout(&window);
+    window.resize(1600, 1000);
+    window.show();
+    ZrBenchStopwatch::drain();
+    return 1000 * secondsOf([&] {
+               column->addWidget(build());
+               ZrBenchStopwatch::drain();
+           });
+}
+
+double ourMs(const QList<QVariantMap> &sheet)
+{
+    return buildMs([&sheet]() -> QWidget * {
+        auto *const form = new ZrAutoBuildWidget;
+        form->setAutoBuildWidgetDetails(sheet, 1);
+        return form;
+    });
+}
+
+QWidget *plainEditor(int place, QWidget *parent)
+{
+    switch (place % 10) {
+    case 1:
+        return new QSpinBox(parent);
+    case 2: {
+        auto *const combo = new QComboBox(parent);
+        combo->addItems({QStringLiteral("c0"), QStringLiteral("c1"), QStringLiteral("c2")});
+        return combo;
+    }
+    case 3:
+        return new QCheckBox(parent);
+    case 4:
+        return new QTimeEdit(parent);
+    case 5:
+        return new QLabel(parent);
+    case 6: {
+        auto *const group = new QWidget(parent);
+        auto *const row = new QHBoxLayout(group);
+        for (const char *text : {"c0", "c1", "c2"})
+            row->addWidget(new QRadioButton(QLatin1String(text)));
+        return group;
+    }
+    case 7:
+        return new QDoubleSpinBox(parent);
+    case 9:
+        return new QDateTimeEdit(parent);
+    default:
+        return new QLineEdit(parent);
+    }
+}
+
+/// The same editors, placed by hand.
+double plainMs()
+{
+    return buildMs([]() -> QWidget * {
+        auto *const form = new QWidget;
+        auto *const rows = new QVBoxLayout(form);
+        for (int number = 0; number < Rows; ++number) {
+            auto *const row = new QHBoxLayout;
+            for (int place = number * InRow; place < (number + 1) * InRow; ++place) {
+                auto *const pair = new QHBoxLayout;
+                pair->addWidget(new QLabel(QStringLiteral("Parameter %1").arg(place), form));
+                pair->addWidget(plainEditor(place, form));
+                row->addLayout(pair);
+            }
+            row->addStretch();
+            rows->addLayout(row);
+        }
+        return form;
+    });
+}
+} // namespace
+
+ZrBenchCases formBenches()
+{
+    const ZrBenchRow built = {"forms/build_200", "ms", false, "same editors by hand", "150 ms", 1.5, 1.0};
+    const ZrBenchRow boxes = {"forms/build_200_boxes", "ms", false, {}, "150 ms", ZrBenchRow::None, 1.0};
+    const auto most = [] { return MostMs; };
+    return {{built,
+             [=] {
+                 const auto sheet = std::make_shared<QList<QVariantMap>>(records(false));
+                 return ZrBenchSides{[sheet] { return ourMs(*sheet); }, plainMs, most};
+             }},
+            {boxes, [=] {
+                 const auto sheet = std::make_shared<QList<QVariantMap>>(records(true));
+                 return ZrBenchSides{[sheet] { return ourMs(*sheet); }, {}, most};
+             }}};
+}
