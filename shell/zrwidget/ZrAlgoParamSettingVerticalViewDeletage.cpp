@@ -24,3 +24,5 @@ void ZrAlgoParamSettingVerticalViewDeletage::updateEditorGeometry(QWidget *edito
 {
     editor->setGeometry(option.rect.adjusted(EdgePx, EdgePx, -EdgePx, -EdgePx));
 }
+
+void ZrAlgoParamSettingVerticalViewDeletage::destroyEditor(QWidget *, const QModelIndex &) const {}

@@ -19,4 +19,6 @@ public:
     void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override;
     void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
                               const QModelIndex &index) const override;
+    /// Nothing: whoever owns the table keeps the editors, and places them again after its rows were reset.
+    void destroyEditor(QWidget *editor, const QModelIndex &index) const override;
 };
