@@ -1,11 +1,18 @@
-// A form made from a description: built, laid out and painted for the first time.
+// A form made from a description: built, laid out and painted for the first time; a sheet with a table of
+// parameters that gets another size.
+#include "ZrAlgoParamSettingWidget.h"
 #include "ZrAutoBuildWidget.h"
 #include "ZrBench.h"
 #include "ZrBenchGrids.h"
 
 #include "zrdefine/Constants.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QTemporaryDir>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDateTimeEdit>
@@ -21,6 +28,8 @@ namespace {
 constexpr int Rows = 40;
 constexpr int InRow = 5;
 constexpr double MostMs = 150; // what a user may wait for a sheet of 200 parameters
+constexpr int Basic = 50;      // parameters of a sheet whose basic ones stand in a table
+constexpr double FrameMs = 16; // what a resize may take of each frame
 
 /// What stands in each row, in turn: as strategies ask for them, the common ones more often.
 struct EditorType
@@ -81,6 +90,7 @@ QList<QVariantMap> records(bool withBoxes)
 
 QString windowSheet()
 {
+    QDir::setSearchPaths(QStringLiteral("ZRSkin"), {QStringLiteral(ZR_BENCH_SKINS)});
     QFile file(QStringLiteral(ZR_BENCH_WINDOW_SHEET));
     if (!file.open(QIODevice::ReadOnly))
         qFatal("no style sheet");
@@ -165,20 +175,91 @@ double plainMs()
         return form;
     });
 }
+/// The description of a sheet with a table of basic parameters, as strategies write it.
+QByteArray description()
+{
+    static const char *const editors[] = {"line", "spin", "check", "time", "line"};
+    static const char *const types[] = {"string", "int", "bool", "time", "int64"};
+    QJsonArray basic;
+    for (int place = 0; place < Basic; ++place)
+        basic.append(QJsonObject{{QStringLiteral("id"), QStringLiteral("p%1").arg(place)},
+                                 {QStringLiteral("name"), QStringLiteral("Parameter %1").arg(place)},
+                                 {QStringLiteral("description"), QStringLiteral("What it does")},
+                                 {QStringLiteral("editor"), QLatin1String(editors[place % 5])},
+                                 {QStringLiteral("type"), QLatin1String(types[place % 5])}});
+    const QJsonObject look{{QStringLiteral("basicAs"), QStringLiteral("table")},
+                           {QStringLiteral("showDescriptions"), true},
+                           {QStringLiteral("showInitial"), false}};
+    return QJsonDocument(QJsonObject{{QStringLiteral("strategy"),
+                                      QJsonObject{{QStringLiteral("id"), QStringLiteral("b")}}},
+                                     {QStringLiteral("interface"), look},
+                                     {QStringLiteral("basic"), basic}})
+        .toJson();
+}
+
+/// The sheet in a window of the workstation's look.
+class SheetFixture
+{
+public:
+    SheetFixture()
+    {
+        QFile file(m_folder.filePath(QStringLiteral("sheet.json")));
+        if (!file.open(QIODevice::WriteOnly) || file.write(description()) < 0)
+            qFatal("no description");
+        file.close();
+        m_window.setStyleSheet(windowSheet());
+        auto *const column = new QVBoxLayout(&m_window);
+        m_sheet = new ZrAlgoParamSettingWidget(&m_window);
+        m_sheet->setAutoBuildWidgetDetails(file.fileName(), 1);
+        column->addWidget(m_sheet);
+        m_window.resize(1200, 900);
+        m_window.show();
+        ZrBenchStopwatch::drain();
+        QVariantMap values;
+        if (m_sheet->getInitialBasicParamData(values) != 0 || values.size() != Basic)
+            qFatal("the sheet isn't the described one");
+    }
+
+    /// A step of a drag at the window's edge, with what it paints.
+    double resizeMs()
+    {
+        double seconds = 0;
+        for (int step = 1; step <= Steps; ++step) {
+            const int widthPx = 1200 + 12 * (step <= Steps / 2 ? step : Steps - step);
+            seconds += secondsOf([&] {
+                m_window.resize(widthPx, 900);
+                ZrBenchStopwatch::drain();
+            });
+        }
+        return 1000 * seconds / Steps;
+    }
+
+private:
+    static constexpr int Steps = 20;
+    QTemporaryDir m_folder;
+    QWidget m_window;
+    ZrAlgoParamSettingWidget *m_sheet; // the window's
+};
 } // namespace
 
 ZrBenchCases formBenches()
 {
     const ZrBenchRow built = {"forms/build_200", "ms", false, "same editors by hand", "150 ms", 1.5, 1.0};
     const ZrBenchRow boxes = {"forms/build_200_boxes", "ms", false, {}, "150 ms", ZrBenchRow::None, 1.0};
+    const ZrBenchRow resized = {"forms/resize", "ms", false, {}, "16 ms", ZrBenchRow::None, 1.0};
     const auto most = [] { return MostMs; };
     return {{built,
              [=] {
                  const auto sheet = std::make_shared<QList<QVariantMap>>(records(false));
                  return ZrBenchSides{[sheet] { return ourMs(*sheet); }, plainMs, most};
              }},
-            {boxes, [=] {
+            {boxes,
+             [=] {
                  const auto sheet = std::make_shared<QList<QVariantMap>>(records(true));
                  return ZrBenchSides{[sheet] { return ourMs(*sheet); }, {}, most};
+             }},
+            {resized, [] {
+                 const auto fixture = std::make_shared<SheetFixture>();
+                 return ZrBenchSides{[fixture] { return fixture->resizeMs(); }, {}, [] { return FrameMs; }};
              }}};
 }

@@ -1,6 +1,8 @@
 #include "ZrParamComboKind.h"
 
 #include "ZrParamLink.h"
+#include "ZrParamRoom.h"
+#include "ZrPlainText.h"
 
 #include "zrdefine/Constants.h"
 
@@ -16,8 +18,11 @@ void choose(QComboBox *combo, const QVariant &value)
 void addOptions(QComboBox *combo, const QVariantMap &record, const ZrParamLink &link)
 {
     const QVector<ZrParamOption> options = link.options();
-    for (const ZrParamOption &option : options)
-        combo->addItem(QIcon(), option.text, option.value);
+    for (const ZrParamOption &option : options) {
+        // The toolkit lays all texts out to find its width, and the shown one at each paint.
+        combo->addItem(QIcon(), ZrPlainText::beginning(option.text, ZrPlainText::captionBound), option.value);
+        ZrParamRoom::bound(combo, option.text);
+    }
     if (record.contains(Constants::STRATEGYPARAM_INIT))
         choose(combo, record.value(Constants::STRATEGYPARAM_INIT));
 }

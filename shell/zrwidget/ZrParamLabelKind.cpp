@@ -1,8 +1,18 @@
 #include "ZrParamLabelKind.h"
 
+#include "ZrParamRoom.h"
+
 #include "zrdefine/Constants.h"
 
 #include <QtWidgets/QLabel>
+
+namespace {
+void setText(QLabel *label, const QString &text)
+{
+    ZrParamRoom::bound(label, text);
+    label->setText(text);
+}
+} // namespace
 
 QWidget *ZrParamLabelKind::make(const QVariantMap &record, QWidget *parent, const ZrParamLink &) const
 {
@@ -10,7 +20,7 @@ QWidget *ZrParamLabelKind::make(const QVariantMap &record, QWidget *parent, cons
     // Values come from outside; they are never markup.
     label->setTextFormat(Qt::PlainText);
     if (record.contains(Constants::STRATEGYPARAM_INIT))
-        label->setText(record.value(Constants::STRATEGYPARAM_INIT).toString());
+        setText(label, record.value(Constants::STRATEGYPARAM_INIT).toString());
     return label;
 }
 
@@ -23,5 +33,5 @@ QVariant ZrParamLabelKind::read(const QWidget *widget, int) const
 void ZrParamLabelKind::write(QWidget *widget, const QVariant &value, bool) const
 {
     if (auto *const label = qobject_cast<QLabel *>(widget))
-        label->setText(value.toString());
+        setText(label, value.toString());
 }

@@ -2,6 +2,7 @@
 
 #include "ZrButtonGroupWidget.h"
 #include "ZrParamLink.h"
+#include "ZrParamRoom.h"
 #include "ZrPlainText.h"
 #include "ZrRadioButton.h"
 
@@ -16,6 +17,7 @@ void addButtons(ZrButtonGroupWidget *group, const QVariantMap &record, const ZrP
         auto *const button = new ZrRadioButton(group);
         button->setCheckable(true);
         button->setText(ZrPlainText::caption(option.text));
+        ZrParamRoom::bound(button, option.text);
         button->setRoleData(Qt::UserRole, option.value.toString());
         group->addButton(button);
         button->setChecked(option.value == first);
