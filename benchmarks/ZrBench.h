@@ -79,6 +79,7 @@ ZrBenchCases busBenches();
 ZrBenchCases editorBenches();
 ZrBenchCases comboBenches();
 ZrBenchCases ladderBenches();
+ZrBenchCases formBenches();
 ZrBenchCases textBenches();
 ZrBenchCases filterBenches();
 ZrBenchCases searchBenches();

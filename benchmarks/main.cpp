@@ -16,7 +16,7 @@ ZrBenchCases allBenches()
 {
     return gridUpdateBenches() + gridAppendBenches() + gridSortFilterBenches() + gridPaintBenches() +
            gridMemoryBenches() + mapBenches() + busBenches() + editorBenches() + comboBenches() +
-           ladderBenches() + textBenches() + filterBenches() + searchBenches();
+           ladderBenches() + formBenches() + textBenches() + filterBenches() + searchBenches();
 }
 
 // A name that is asked for whole means that row only, anything else what holds it.

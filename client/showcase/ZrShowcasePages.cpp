@@ -44,5 +44,8 @@ QList<ZrShowcaseEntry> ZrShowcasePages::all()
 
         // --- search ---
         entry("search-box", "ZrSearchBox", "search", zrMakeSearchBoxPage),
+
+        // --- forms ---
+        entry("auto-build", "ZrAutoBuildWidget", "forms", zrMakeAutoBuildWidgetPage),
     };
 }

@@ -59,3 +59,6 @@ ZrShowcasePage *zrMakeLinkageComboPage(QWidget *parent);
 
 // --- search ---
 ZrShowcasePage *zrMakeSearchBoxPage(QWidget *parent);
+
+// --- forms ---
+ZrShowcasePage *zrMakeAutoBuildWidgetPage(QWidget *parent);

@@ -4,9 +4,8 @@
 #include "zrutils/ZrRecordFilter.h"
 #include "zrutils/ZrRecordSorter.h"
 #include "zrutils/ZrRecordSum.h"
+#include "zrutils/ZrStrategyReader.h"
 #include "zrutils/ZrTipText.h"
-
-#include <QtCore/QDebug>
 
 #include <algorithm>
 
@@ -102,13 +101,22 @@ int ZrCommonUtils::sortTableViewRecordListByKeys(RecordDataList &records,
     return records.size();
 }
 
-// Refused rather than half read: a form built from a part of its description would send wrong orders.
-int ZrCommonUtils::praseAlgoParamJsonFile(const QString &path, QList<QMap<QString, QVariant>> &,
-                                          QList<QMap<QString, QVariant>> &, QList<QMap<QString, QVariant>> &,
-                                          QList<QMap<QString, QVariant>> &, QList<QMap<QString, QVariant>> &,
-                                          QMap<QString, QVariant> &, QMap<QString, QVariant> &)
+int ZrCommonUtils::praseAlgoParamJsonFile(const QString &path, QList<QMap<QString, QVariant>> &basicParams,
+                                          QList<QMap<QString, QVariant>> &initialParams,
+                                          QList<QMap<QString, QVariant>> &runningParams,
+                                          QList<QMap<QString, QVariant>> &resultParams,
+                                          QList<QMap<QString, QVariant>> &links,
+                                          QMap<QString, QVariant> &strategy,
+                                          QMap<QString, QVariant> &interfaceSettings)
 {
-    qWarning().noquote() << "ZrCommonUtils::praseAlgoParamJsonFile" << path
-                         << "is a strategy parameter description, which is not supported by this host yet";
-    return -1;
+    ZrStrategyDescription description;
+    const bool isRead = ZrStrategyReader::read(path, &description);
+    basicParams = description.basic;
+    initialParams = description.initial;
+    runningParams = description.running;
+    resultParams = description.results;
+    links = description.links;
+    strategy = description.strategy;
+    interfaceSettings = description.settings;
+    return isRead ? 0 : -1;
 }

@@ -5,8 +5,9 @@
 namespace {
 constexpr int longest = 8 * 1024 * 1024;
 constexpr int deepest = 128;
+} // namespace
 
-bool isTooDeep(const QString &text)
+bool ZrJsonText::isTooDeep(const QString &text)
 {
     int depth = 0;
     bool inText = false;
@@ -25,7 +26,6 @@ bool isTooDeep(const QString &text)
     }
     return false;
 }
-} // namespace
 
 bool ZrJsonText::parse(const QString &text, QJsonDocument &document)
 {

@@ -13,6 +13,8 @@ class ZrJsonText
 {
 public:
     static bool parse(const QString &text, QJsonDocument &document);
+    /// Whether lists and objects stand in each other on more levels than allowed; the text need be no JSON.
+    static bool isTooDeep(const QString &text);
 
 private:
     ZrJsonText() = delete;

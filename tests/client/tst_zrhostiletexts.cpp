@@ -1,3 +1,4 @@
+#include "ZrAutoBuildWidget.h"
 #include "ZrComfirmDialog.h"
 #include "ZrLabel.h"
 #include "ZrLineEdit.h"
@@ -13,6 +14,8 @@
 #include "ZrTableView.h"
 #include "ZrTestMain.h"
 #include "ZrToastDialog.h"
+
+#include "zrdefine/Constants.h"
 
 #include <QtGui/QAccessible>
 #include <QtGui/QHelpEvent>
@@ -131,6 +134,26 @@ QWidget *grid(const QString &text, QWidget *parent)
     return view;
 }
 
+/// Names, values and choices are what a strategy's description says.
+QWidget *form(const QString &text, QWidget *parent)
+{
+    const QVariantMap option{{Constants::STRATEGYPARAM_DISPLAYROLE, text},
+                             {Constants::STRATEGYPARAM_USERROLE, 1}};
+    QList<QVariantMap> records;
+    for (const QString &type :
+         {Constants::WIDGETTYPE_LABEL, Constants::WIDGETTYPE_LINEEDIT, Constants::WIDGETTYPE_RADIOBUTTON,
+          Constants::WIDGETTYPE_COMBOBOX, Constants::WIDGETTYPE_CHECKBOX})
+        records.append({{Constants::STRATEGYPARAM_PARAMID, type},
+                        {Constants::STRATEGYPARAM_PARAMNAME, text},
+                        {Constants::STRATEGYPARAM_ROW, records.size() + 1},
+                        {Constants::STRATEGYPARAM_WIDGETTYPE, type},
+                        {Constants::STRATEGYPARAM_INIT, text},
+                        {Constants::STRATEGYPARAM_OPTIONS, QVariantList{option, option}}});
+    auto *const made = new ZrAutoBuildWidget(parent);
+    made->setAutoBuildWidgetDetails(records, 1);
+    return made;
+}
+
 /// The widget in a window of some room, as a plugin's window would hold it; a dialog stands over it.
 class Room
 {
@@ -231,6 +254,7 @@ void tst_ZrHostileTexts::addWidgets()
     QTest::newRow("ZrMultiComboBox") << Maker(multiCombo);
     QTest::newRow("ZrShortCutKeyWidget") << Maker(shortcutRow);
     QTest::newRow("ZrTableView") << Maker(grid);
+    QTest::newRow("ZrAutoBuildWidget") << Maker(form);
 }
 
 void tst_ZrHostileTexts::noPictureIsReadFromDisk()

@@ -19,7 +19,6 @@ private slots:
     void onlyJsonBecomesADocument_data();
     void onlyJsonBecomesADocument();
     void aRefusedTextLeavesTheDocumentAlone();
-    void aParameterDescriptionIsRefusedByName();
 };
 
 void TestCommonUtils::aTipThatIsShownAsItStandsStays_data()
@@ -119,18 +118,6 @@ void TestCommonUtils::aRefusedTextLeavesTheDocumentAlone()
     QVERIFY(ZrCommonUtils::canCreateJsonDocu(document, QStringLiteral("[1]")));
     QVERIFY(!ZrCommonUtils::canCreateJsonDocu(document, QStringLiteral("[1")));
     QCOMPARE(document.array().size(), 1);
-}
-
-void TestCommonUtils::aParameterDescriptionIsRefusedByName()
-{
-    QList<QMap<QString, QVariant>> basic, initial, running, result, links;
-    QMap<QString, QVariant> strategy, interfaceSettings;
-    QTest::ignoreMessage(QtWarningMsg,
-                         "ZrCommonUtils::praseAlgoParamJsonFile twap.json is a strategy parameter "
-                         "description, which is not supported by this host yet");
-    QCOMPARE(ZrCommonUtils::praseAlgoParamJsonFile(QStringLiteral("twap.json"), basic, initial, running,
-                                                   result, links, strategy, interfaceSettings),
-             -1);
 }
 
 ZR_TEST_MAIN(TestCommonUtils)

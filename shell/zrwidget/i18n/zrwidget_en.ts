@@ -230,4 +230,43 @@
         <translation type="unfinished"></translation>
     </message>
 </context>
+<context>
+    <name>ZrAlgoParamSettingWidget</name>
+    <message>
+        <source>提醒</source>
+        <translation>Reminder</translation>
+    </message>
+    <message>
+        <source>参数名</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>参数值</source>
+        <translation>Value</translation>
+    </message>
+    <message>
+        <source>参数描述</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>不可为空！ </source>
+        <translation> must not be empty! </translation>
+    </message>
+    <message>
+        <source>不可大于</source>
+        <translation> must not be above </translation>
+    </message>
+    <message>
+        <source>不可大于等于</source>
+        <translation> must be below </translation>
+    </message>
+    <message>
+        <source>不可小于</source>
+        <translation> must not be below </translation>
+    </message>
+    <message>
+        <source>不可小于等于</source>
+        <translation> must be above </translation>
+    </message>
+</context>
 </TS>

@@ -230,4 +230,43 @@
         <translation>不支持该证券代码！</translation>
     </message>
 </context>
+<context>
+    <name>ZrAlgoParamSettingWidget</name>
+    <message>
+        <source>提醒</source>
+        <translation>提醒</translation>
+    </message>
+    <message>
+        <source>参数名</source>
+        <translation>参数名</translation>
+    </message>
+    <message>
+        <source>参数值</source>
+        <translation>参数值</translation>
+    </message>
+    <message>
+        <source>参数描述</source>
+        <translation>参数描述</translation>
+    </message>
+    <message>
+        <source>不可为空！ </source>
+        <translation>不可为空！ </translation>
+    </message>
+    <message>
+        <source>不可大于</source>
+        <translation>不可大于</translation>
+    </message>
+    <message>
+        <source>不可大于等于</source>
+        <translation>不可大于等于</translation>
+    </message>
+    <message>
+        <source>不可小于</source>
+        <translation>不可小于</translation>
+    </message>
+    <message>
+        <source>不可小于等于</source>
+        <translation>不可小于等于</translation>
+    </message>
+</context>
 </TS>

@@ -1,0 +1,3 @@
+#include "ZrParamSheet.h"
+
+ZrParamSheet::~ZrParamSheet() = default;
