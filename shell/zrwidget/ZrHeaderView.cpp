@@ -7,6 +7,7 @@
 #include "ZrHeaderSectionOption.h"
 #include "ZrHeaderSectionPainter.h"
 #include "ZrHeaderView_p.h"
+#include "ZrHeadFocusLine.h"
 #include "ZrPlainText.h"
 
 #include <QtGui/QHoverEvent>
@@ -37,6 +38,7 @@ void ZrHeaderView::setUp()
     setStretchLastSection(true);
     setAttribute(Qt::WA_MouseTracking);
     setSectionsClickable(true);
+    m_focusLine = new ZrHeadFocusLine(this);
     installEventFilter(this);
     setAttribute(Qt::WA_Hover);
     setTextElideMode(Qt::ElideRight);
@@ -149,6 +151,13 @@ QSize ZrHeaderView::sectionSizeFromContents(int section) const
     option.section = section;
     option.text = ZrPlainText::beginning(text, ZrPlainText::captionBound);
     return style()->sizeFromContents(QStyle::CT_HeaderSection, &option, QSize(), this);
+}
+
+void ZrHeaderView::paintEvent(QPaintEvent *event)
+{
+    QHeaderView::paintEvent(event);
+    QPainter painter(viewport());
+    m_focusLine->paint(&painter);
 }
 
 void ZrHeaderView::paintSection(QPainter *painter, const QRect &rect, int section) const

@@ -9,6 +9,7 @@
 
 #include <memory>
 
+class ZrHeadFocusLine;
 class ZrHeaderHits;
 class ZrHeaderViewPrivate;
 
@@ -77,6 +78,7 @@ public slots:
 
 protected:
     QSize sectionSizeFromContents(int section) const override;
+    void paintEvent(QPaintEvent *event) override;
     void paintSection(QPainter *painter, const QRect &rect, int section) const override;
     void paintHeaderSection(QPainter *painter, const QRect &rect, int section, bool dragging) const;
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -100,8 +102,9 @@ private:
 
     std::shared_ptr<ZrHeaderViewPrivate> d; // shared with the heads of side tables
     ZrHeaderDrag m_drag;
-    int m_hovered = -1;               // section under the pointer
-    int m_pressed = -1;               // section that the base took a click for
-    bool m_inBasePress = false;       // while the base handles a press
-    mutable int m_copiedSection = -1; // section that the base made a drag copy of during that press
+    ZrHeadFocusLine *m_focusLine = nullptr; // child
+    int m_hovered = -1;                     // section under the pointer
+    int m_pressed = -1;                     // section that the base took a click for
+    bool m_inBasePress = false;             // while the base handles a press
+    mutable int m_copiedSection = -1;       // section that the base made a drag copy of during that press
 };
