@@ -214,13 +214,13 @@ void ZrMultiComboBox::stateChanged(int)
 
 void ZrMultiComboBox::packShowText()
 {
-    const QStringList texts = m_list->tickedTexts();
-    m_selectedText = texts.join(QLatin1Char(';'));
+    const ZrTickedTexts::Joined ticked = m_list->joinedTicks(QLatin1Char(';'));
+    m_selectedText = ticked.text;
     if (!m_edit)
         return;
     // Blocked: the change would call this again.
     const QSignalBlocker blocker(m_edit);
-    if (texts.isEmpty()) {
+    if (ticked.count == 0) {
         m_edit->setShownText(m_noSelectedText);
     } else {
         m_edit->setShownText(m_selectedText);

@@ -22,6 +22,19 @@ ZrMultiComboList::ZrMultiComboList(QWidget *parent)
     // Rows are alike; measuring each of thousands is most of what opening would cost.
     setUniformItemSizes(true);
     setAccessibleName(tr("Choices"));
+    listenToRows();
+}
+
+void ZrMultiComboList::listenToRows()
+{
+    const auto forget = [this] { m_areTextsKnown = false; };
+    const QAbstractItemModel *const rows = model();
+    connect(rows, &QAbstractItemModel::rowsInserted, this, forget);
+    connect(rows, &QAbstractItemModel::rowsRemoved, this, forget);
+    connect(rows, &QAbstractItemModel::rowsMoved, this, forget);
+    connect(rows, &QAbstractItemModel::dataChanged, this, forget);
+    connect(rows, &QAbstractItemModel::layoutChanged, this, forget);
+    connect(rows, &QAbstractItemModel::modelReset, this, forget);
 }
 
 void ZrMultiComboList::takeOwnLook()
@@ -57,6 +70,7 @@ QVector<CheckBoxInMultiBox *> ZrMultiComboList::addRows(const QVector<Row> &rows
         box->hide();
         boxes.append(box);
     }
+    m_areTextsKnown = false; // a slot of the model may have asked before the rows had their boxes
     return boxes;
 }
 
@@ -94,6 +108,19 @@ QStringList ZrMultiComboList::tickedTexts() const
             texts.append(found->text());
     }
     return texts;
+}
+
+ZrTickedTexts::Joined ZrMultiComboList::joinedTicks(QChar separator) const
+{
+    if (!m_areTextsKnown) {
+        m_texts.clear();
+        for (int row = 0; row < count(); ++row) {
+            const ZrMultiComboItem *const found = ZrMultiComboItem::of(item(row));
+            m_texts.append(found ? found->text() : QString(), found ? found->box() : nullptr);
+        }
+        m_areTextsKnown = true;
+    }
+    return m_texts.joined(separator);
 }
 
 QString ZrMultiComboList::textAt(int row) const

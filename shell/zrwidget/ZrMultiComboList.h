@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ZrTickedTexts.h"
 #include "zrwidget_global.h"
 
 #include <QtCore/QElapsedTimer>
@@ -36,6 +37,8 @@ public:
     QList<int> tickedRows() const;
     /// The texts of the ticked rows, in the order of rows, in one pass.
     QStringList tickedTexts() const;
+    /// The same texts joined, and how many they are.
+    ZrTickedTexts::Joined joinedTicks(QChar separator) const;
     QString textAt(int row) const;
     /// Toggles the current row as a click on it does.
     void clickCurrent();
@@ -52,9 +55,12 @@ protected slots:
     void updateEditorGeometries() override;
 
 private:
+    void listenToRows();
     int firstRowInSight() const;
     int rowThatBegins(const QString &text, int from) const;
 
+    mutable ZrTickedTexts m_texts;        // of all rows, while m_areTextsKnown
+    mutable bool m_areTextsKnown = false; // until a row comes, goes, moves or changes
     QVector<QPointer<QWidget>> m_inSight; // item widgets that are shown
     QString m_searched;                   // what was typed so far
     QElapsedTimer m_sinceTyped;

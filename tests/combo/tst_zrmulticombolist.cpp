@@ -77,6 +77,25 @@ private slots:
         QCOMPARE(list.tickedTexts(), QStringList(QStringLiteral("t3")));
     }
 
+    void joinedTicksFollowRowsThatComeGoAndChange()
+    {
+        ZrMultiComboList list;
+        fill(&list, 3);
+        list.boxAt(0)->setChecked(true);
+        list.boxAt(2)->setChecked(true);
+        QCOMPARE(list.joinedTicks(';').text, QStringLiteral("t0;t2"));
+        list.addRows({{QStringLiteral("new"), 3}}).constFirst()->setChecked(true);
+        QCOMPARE(list.joinedTicks(';').text, QStringLiteral("t0;t2;new"));
+        list.item(2)->setData(ZrMultiComboItem::TextRole, QStringLiteral("other"));
+        QCOMPARE(list.joinedTicks(';').text, QStringLiteral("t0;other;new"));
+        delete list.takeItem(0);
+        QCOMPARE(list.joinedTicks(';').text, QStringLiteral("other;new"));
+        delete list.boxAt(1);
+        QCOMPARE(list.joinedTicks(';').count, 1);
+        list.clear();
+        QCOMPARE(list.joinedTicks(';').count, 0);
+    }
+
     void aCheckBoxThatEndsAloneLeavesAPlainRow()
     {
         ZrMultiComboList list;
