@@ -86,19 +86,27 @@ ZrPluginDock *ZrPluginDesk::open(const QString &pluginId, const QVariantMap &pro
         *error = QStringLiteral("there is no room for more than %1 plugins.").arg(MostDocks);
         return nullptr;
     }
-    ZrPluginBaseWidget *plugin = nullptr;
+    ZrPluginDock *dock = nullptr;
     const auto make = [&] {
-        plugin = ZrPluginBaseWidget::createPluginWidgetByPluginID(
+        ZrPluginBaseWidget *const plugin = ZrPluginBaseWidget::createPluginWidgetByPluginID(
             pluginId, m_menuId + QLatin1Char('#'), {{PluginPropety::PLUGIN_CUSTOMPROP, properties}});
+        if (plugin)
+            dock = show(pluginId, plugin);
     };
     if (m_guard)
         m_guard(pluginId, make);
     else
         make();
-    if (!plugin) {
+    if (!dock) {
         *error = noSuchPlugin(pluginId);
         return nullptr;
     }
+    emit signalOpened(dock);
+    return dock;
+}
+
+ZrPluginDock *ZrPluginDesk::show(const QString &pluginId, ZrPluginBaseWidget *plugin)
+{
     ZrPluginDock *dock = dockOf(plugin);
     if (!dock) {
         // Made by a maker that doesn't call prepare().
@@ -106,6 +114,8 @@ ZrPluginDock *ZrPluginDesk::open(const QString &pluginId, const QVariantMap &pro
         dock = dockOf(plugin);
     }
     place(dock);
-    emit signalOpened(dock);
+    // Painted here and not only when the window is: a plugin that doesn't outlive its first paint would end
+    // every start, and with all plugins in sight nobody could tell which of them it was.
+    dock->grab();
     return dock;
 }

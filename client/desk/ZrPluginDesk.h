@@ -22,7 +22,8 @@ class ZrPluginDesk : public QObject
 {
     Q_OBJECT
 public:
-    /// Runs its argument, which makes and initialises a plugin of that ID, guarded against a crash.
+    /// Runs its argument, which makes, initialises and first paints a plugin of that ID, guarded against a
+    /// crash.
     using Guard = std::function<void(const QString &pluginId, const std::function<void()> &work)>;
 
     ZrPluginDesk(QMainWindow *window, const QString &menuId);
@@ -48,6 +49,7 @@ signals:
 private:
     ZrPluginDock *dockOf(ZrPluginBaseWidget *plugin) const;
     QString freeName(const QString &pluginId) const;
+    ZrPluginDock *show(const QString &pluginId, ZrPluginBaseWidget *plugin);
     void place(ZrPluginDock *dock);
 
     QMainWindow *const m_window; // not owned

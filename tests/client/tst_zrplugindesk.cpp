@@ -24,6 +24,7 @@ private slots:
     void anUnpreparedPluginGetsItsDockToo();
     void propertiesComeBeforeTheInitialisation();
     void theGuardSeesTheMaking();
+    void theGuardSeesTheFirstPaint();
     void anUnknownPluginIsOneSentence();
     void whatIsNoWindowIsNotOpened();
     void closedPluginsAreLeftOut();
@@ -154,6 +155,38 @@ void tst_ZrPluginDesk::theGuardSeesTheMaking()
     const ZrPluginDock *const dock = m_desk->open(id, {}, &m_error);
     QVERIFY(dock->plugin()->IsInitialized());
     QCOMPARE(guarded, QStringList{id});
+}
+
+namespace {
+// Counts the paints of plugins.
+class PaintCounter : public QObject
+{
+public:
+    int paints = 0;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint && qobject_cast<PluginProbe *>(watched))
+            ++paints;
+        return false;
+    }
+};
+} // namespace
+
+void tst_ZrPluginDesk::theGuardSeesTheFirstPaint()
+{
+    PaintCounter counter;
+    qApp->installEventFilter(&counter);
+    int before = -1;
+    int within = -1;
+    m_desk->setGuard([&](const QString &, const std::function<void()> &work) {
+        before = counter.paints;
+        work();
+        within = counter.paints;
+    });
+    QVERIFY2(m_desk->open(id, {}, &m_error), qPrintable(m_error));
+    QCOMPARE(before, 0);
+    QVERIFY(within > 0);
 }
 
 void tst_ZrPluginDesk::anUnknownPluginIsOneSentence()
