@@ -22,7 +22,10 @@ ZrMultiComboEdit::ZrMultiComboEdit(QWidget *parent)
 void ZrMultiComboEdit::setShownText(const QString &text)
 {
     // The mode changes while the text is short, since that lays out as well.
-    if (text.size() > longestLaidOut) {
+    const bool isLong = text.size() > longestLaidOut;
+    // A screen reader gets nothing of a text that isn't echoed.
+    setAccessibleDescription(isLong ? text.left(longestLaidOut) : QString());
+    if (isLong) {
         if (echoMode() == Normal)
             setText(QString());
         setEchoMode(NoEcho);

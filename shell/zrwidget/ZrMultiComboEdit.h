@@ -10,7 +10,7 @@
 /// Shape:     what doesn't fit ends in an ellipsis. text() is always the whole text. The base lays a text out
 ///            whole at each change, milliseconds for tens of thousands of characters of which thirty are
 ///            seen; so a text beyond longestLaidOut is kept from it: echoMode() is NoEcho then, and nothing
-///            can be selected with the mouse.
+///            can be selected with the mouse; screen readers get its beginning as the description.
 /// Units:     longestLaidOut in characters (UTF-16 units).
 /// Ownership: normal QWidget parent rules.
 /// Threads:   GUI thread only.
