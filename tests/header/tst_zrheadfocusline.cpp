@@ -7,7 +7,6 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QTableView>
 #include <QtWidgets/QTableWidget>
-#include <QtWidgets/QVBoxLayout>
 
 namespace {
 
@@ -16,9 +15,10 @@ struct Desk
 {
     Desk()
     {
-        auto *const rows = new QVBoxLayout(&window);
-        rows->addWidget(&grid);
-        rows->addWidget(&field);
+        grid.setParent(&window);
+        grid.setGeometry(0, 0, 400, 260);
+        field.setParent(&window);
+        field.setGeometry(0, 270, 400, 30);
         grid.setFocusPolicy(Qt::StrongFocus);
         grid.horizontalHeader()->resizeSection(0, 60);
         grid.horizontalHeader()->resizeSection(1, 40);
