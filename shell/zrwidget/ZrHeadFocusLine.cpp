@@ -8,11 +8,11 @@ namespace {
 constexpr int LinePx = 2;
 
 // The main part: frozen parts are its children.
-const QWidget *gridOf(const QWidget &head)
+QWidget *gridOf(const QWidget &head)
 {
-    const QWidget *grid = nullptr;
-    for (const QWidget *up = head.parentWidget(); up && !up->isWindow(); up = up->parentWidget()) {
-        if (qobject_cast<const QAbstractItemView *>(up))
+    QWidget *grid = nullptr;
+    for (QWidget *up = head.parentWidget(); up; up = up->isWindow() ? nullptr : up->parentWidget()) {
+        if (qobject_cast<QAbstractItemView *>(up))
             grid = up;
     }
     return grid;
@@ -23,14 +23,38 @@ ZrHeadFocusLine::ZrHeadFocusLine(QHeaderView *head)
     : QObject(head)
     , m_head(head)
 {
-    connect(qApp, &QApplication::focusChanged, this,
-            [this](const QWidget *, const QWidget *now) { follow(now); });
+    head->installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this, &ZrHeadFocusLine::follow);
+    findGrid();
 }
 
-void ZrHeadFocusLine::follow(const QWidget *focus)
+bool ZrHeadFocusLine::eventFilter(QObject *watched, QEvent *event)
 {
-    const QWidget *const grid = focus ? gridOf(*m_head) : nullptr;
-    const bool isShown = grid && (grid == focus || grid->isAncestorOf(focus));
+    if (watched == m_head && (event->type() == QEvent::ParentChange || event->type() == QEvent::Show))
+        findGrid();
+    // Besides the application's word: a grid in a graphics scene has a focus that the application doesn't
+    // know.
+    if (watched == m_grid && (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut))
+        follow();
+    return QObject::eventFilter(watched, event);
+}
+
+void ZrHeadFocusLine::findGrid()
+{
+    QWidget *const grid = gridOf(*m_head);
+    if (grid == m_grid)
+        return;
+    if (m_grid)
+        m_grid->removeEventFilter(this);
+    m_grid = grid;
+    if (grid)
+        grid->installEventFilter(this);
+    follow();
+}
+
+void ZrHeadFocusLine::follow()
+{
+    const bool isShown = m_grid && (m_grid->hasFocus() || m_grid->isAncestorOf(QApplication::focusWidget()));
     if (isShown == m_shown)
         return;
     m_shown = isShown;

@@ -3,9 +3,11 @@
 #include "zrwidget_global.h"
 
 #include <QtCore/QObject>
+#include <QtCore/QPointer>
 
 class QHeaderView;
 class QPainter;
+class QWidget;
 
 /// Line under the head of the grid that has the keyboard.
 ///
@@ -28,9 +30,13 @@ public:
     /// Draws the line over the painted head, if it shows.
     void paint(QPainter *painter) const;
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
-    void follow(const QWidget *focus);
+    void findGrid();
+    void follow();
 
     QHeaderView *const m_head; // not owned: the parent
+    QPointer<QWidget> m_grid;  // not owned: the outermost view around the head
     bool m_shown = false;
 };

@@ -3,6 +3,7 @@
 
 #include <QtGui/QPainter>
 #include <QtTest/QtTest>
+#include <QtWidgets/QGraphicsScene>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QTableView>
@@ -31,8 +32,9 @@ struct Desk
     QTableWidget grid{1, 2};
     QTableView frozen{&grid};
     QLineEdit field;
-    ZrHeadFocusLine line{grid.horizontalHeader()};
-    ZrHeadFocusLine frozenLine{frozen.horizontalHeader()};
+    // Children of their heads.
+    const ZrHeadFocusLine &line = *new ZrHeadFocusLine(grid.horizontalHeader());
+    const ZrHeadFocusLine &frozenLine = *new ZrHeadFocusLine(frozen.horizontalHeader());
 };
 
 QImage painted(const ZrHeadFocusLine &line, const QHeaderView &head)
@@ -53,6 +55,8 @@ private slots:
     void everyPartOfTheGridFollowsTheKeyboard();
     void anEditorOfACellCounts();
     void theLineEndsWithTheLastSection();
+    void aHeadThatMovesFollowsItsNewGrid();
+    void aGridInASceneHasItToo();
     void aHeadOutsideOfAGridHasNone();
 };
 
@@ -94,6 +98,33 @@ void tst_ZrHeadFocusLine::theLineEndsWithTheLastSection()
     QCOMPARE(picture.pixelColor(99, head.height() - 2), mark);
     QCOMPARE(picture.pixelColor(99, head.height() - 3), QColor(Qt::white));
     QCOMPARE(picture.pixelColor(100, head.height() - 1), QColor(Qt::white));
+}
+
+void tst_ZrHeadFocusLine::aHeadThatMovesFollowsItsNewGrid()
+{
+    Desk desk;
+    auto *const head = new QHeaderView(Qt::Horizontal);
+    const ZrHeadFocusLine line(head);
+    desk.grid.setFocus();
+    QTRY_VERIFY(desk.grid.hasFocus());
+    QVERIFY(!line.isShown());
+    desk.grid.setHorizontalHeader(head);
+    QVERIFY(line.isShown());
+    desk.field.setFocus();
+    QVERIFY(!line.isShown());
+}
+
+void tst_ZrHeadFocusLine::aGridInASceneHasItToo()
+{
+    QGraphicsScene scene;
+    auto *const grid = new QTableWidget(1, 1);
+    scene.addWidget(grid);
+    const ZrHeadFocusLine line(grid->horizontalHeader());
+    QEvent activate(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(&scene, &activate);
+    QVERIFY(!line.isShown());
+    grid->setFocus();
+    QVERIFY(line.isShown());
 }
 
 void tst_ZrHeadFocusLine::aHeadOutsideOfAGridHasNone()
