@@ -4,6 +4,8 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QProcess>
 #include <QtCore/QVector>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QWindow>
 #include <QtTest/QtTest>
 
 #include <csignal>
@@ -127,6 +129,29 @@ void RealDesktop::perform(const QStringList &actions)
     QCOMPARE(hand.exitCode(), 0);
 }
 
+qulonglong RealDesktop::windowOf(const QString &question)
+{
+    QProcess hand;
+    hand.start(QStringLiteral("xdotool"), {question});
+    hand.waitForFinished(patienceMs);
+    return hand.readAllStandardOutput().trimmed().toULongLong();
+}
+
+// As the server and as the manager know it. The toolkit hears of a window's turn before the manager has set
+// everything for it, and a key that comes in between is nobody's.
+bool RealDesktop::hasKeyboard(const QWindow *window)
+{
+    return window && windowOf(QStringLiteral("getwindowfocus")) == window->winId() &&
+           windowOf(QStringLiteral("getactivewindow")) == window->winId();
+}
+
+// Of the pointer too: what is pressed before the manager is done with a new window may be nobody's.
+void RealDesktop::performOnFocus(const QStringList &actions)
+{
+    QTRY_VERIFY_WITH_TIMEOUT(hasKeyboard(QGuiApplication::focusWindow()), patienceMs);
+    perform(actions);
+}
+
 namespace {
 QStringList moveTo(const QPoint &point)
 {
@@ -136,22 +161,22 @@ QStringList moveTo(const QPoint &point)
 
 void RealDesktop::click(const QPoint &at)
 {
-    perform(moveTo(at) + QStringList{QStringLiteral("click"), QStringLiteral("1")});
+    performOnFocus(moveTo(at) + QStringList{QStringLiteral("click"), QStringLiteral("1")});
 }
 
 void RealDesktop::drag(const QPoint &from, const QPoint &to)
 {
-    perform(moveTo(from) + QStringList{QStringLiteral("mousedown"), QStringLiteral("1")} +
-            moveTo((from * 2 + to) / 3) + moveTo((from + to * 2) / 3) + moveTo(to) +
-            QStringList{QStringLiteral("mouseup"), QStringLiteral("1")});
+    performOnFocus(moveTo(from) + QStringList{QStringLiteral("mousedown"), QStringLiteral("1")} +
+                   moveTo((from * 2 + to) / 3) + moveTo((from + to * 2) / 3) + moveTo(to) +
+                   QStringList{QStringLiteral("mouseup"), QStringLiteral("1")});
 }
 
 void RealDesktop::key(const QString &name)
 {
-    perform({QStringLiteral("key"), name});
+    performOnFocus({QStringLiteral("key"), name});
 }
 
 void RealDesktop::type(const QString &text)
 {
-    perform({QStringLiteral("type"), text});
+    performOnFocus({QStringLiteral("type"), text});
 }

@@ -9,6 +9,8 @@
 
 #include <sys/types.h>
 
+class QWindow;
+
 /// A display of our own with a window manager on it, and a hand at its mouse and keyboard.
 ///
 /// Shape:     made in main() before the application object, which then shows its windows there. Several may
@@ -40,6 +42,10 @@ private:
     pid_t start(const QStringList &command) const;
     static void end(pid_t process);
     static void perform(const QStringList &actions);
+    /// Once the window that the toolkit knows as the focused one has the keyboard.
+    static void performOnFocus(const QStringList &actions);
+    static bool hasKeyboard(const QWindow *window);
+    static qulonglong windowOf(const QString &question);
 
     QTemporaryDir m_folder;
     QString m_problem;
