@@ -129,8 +129,9 @@ QString ZrStrategyFields::word(const QString &key, const QMap<QString, QString> 
 {
     const QString found = has(key) ? text(key) : otherwise;
     if (!meanings.contains(found)) {
-        const QString words = meanings.keys().join(QStringLiteral(", "));
-        complain(key, QStringLiteral("%1 is none of %2").arg(ZrStrategyFaults::quoted(found), words));
+        const QStringList known(meanings.keyBegin(), meanings.keyEnd());
+        complain(key, QStringLiteral("%1 is none of %2")
+                          .arg(ZrStrategyFaults::quoted(found), known.join(QStringLiteral(", "))));
     }
     return meanings.value(found);
 }
